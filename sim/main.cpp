@@ -1,0 +1,70 @@
+// zorvane-sim: the game without a window. A player's decisions come from a script.
+#include "Simulator.h"
+
+#include "core/Game.h"
+
+#include <CLI/CLI.hpp>
+
+#include <chrono>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+std::uint64_t secondsSinceMidnight() {
+    using namespace std::chrono;
+    const auto now = system_clock::now();
+    const auto today = floor<days>(now);
+    return static_cast<std::uint64_t>(duration_cast<seconds>(now - today).count());
+}
+
+std::vector<std::string> readLines(std::istream& in) {
+    std::vector<std::string> lines;
+    std::string line;
+    while (std::getline(in, line))
+        lines.push_back(line);
+    return lines;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    using namespace zorvane;
+    CLI::App app{"zorvane-sim: runs the Zorvane movie-theater game without a window, "
+                 "driven by a script of commands."};
+    sim::SimOptions options;
+    std::string script = "-";
+    std::uint64_t seed = 0;
+    app.add_option("--data", options.dataDir, "the program's folder (math.txt, lists, images, sounds)");
+    app.add_option("--arg", options.arg, "the game's one command-line argument (.zvn or .mth)");
+    auto* seedOpt = app.add_option("--seed", seed, "seed of the game's random generator");
+    app.add_option("--goal", options.goal, "goal list index chosen at \"Play !\" (0: Free Play)");
+    app.add_flag("--quiet", options.quiet, "print only what commands ask for");
+    app.set_version_flag("--version", "zorvane-sim " + Game::programVersion);
+    app.add_option("script", script, "script file; standard input when absent or -");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        const int code = app.exit(e);
+        return code == 0 ? 0 : 2;
+    }
+    options.seed = seedOpt->count() ? seed : secondsSinceMidnight();
+    if (options.dataDir.empty())
+        options.dataDir = sim::defaultDataDir(argv[0]);
+
+    std::vector<std::string> lines;
+    if (script == "-") {
+        lines = readLines(std::cin);
+    } else {
+        std::ifstream in(script);
+        if (!in) {
+            std::cerr << "cannot read the script '" << script << "'\n";
+            return 2;
+        }
+        lines = readLines(in);
+    }
+    sim::Simulator simulator(options, std::cout);
+    const int status = simulator.run(lines, std::cerr);
+    std::cout.flush();
+    return status;
+}

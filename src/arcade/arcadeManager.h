@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class arcadeManager {
+public:
+    explicit arcadeManager(Game& game) : game_(game) {}
+
+    void initArcades();
+    void arcadesNextMonth();
+    void arcadesNextYear();
+    void doArcadeBusiness(int);
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,25 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class buildingManager {
+public:
+    explicit buildingManager(Game& game) : game_(game) {}
+
+    void initBuilding();
+    void buildingNextDay();
+    void buildingNextMonth();
+    void buildingNextYear();
+    bool isInOrder() const { return true; }
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,25 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class ConcessionManager {
+public:
+    explicit ConcessionManager(Game& game) : game_(game) {}
+
+    void initConcessions();
+    void concessionsNextDay();
+    void concessionsNextMonth();
+    void concessionsNextYear();
+    void doConcessionBusiness(int);
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

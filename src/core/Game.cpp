@@ -1,0 +1,202 @@
+#include "core/Game.h"
+
+#include "core/GameError.h"
+#include "core/Toolbox.h"
+
+namespace zorvane {
+
+namespace {
+constexpr int versionMajor = 2, versionMinor = 0, versionRevision = 1;
+}
+
+const std::string Game::programVersion = std::to_string(versionMajor) + "." +
+                                         std::to_string(versionMinor) + "." +
+                                         std::to_string(versionRevision);
+
+Game::Game(GameSetup setup)
+    : rng(setup.seed), calendar(*this), finances(*this), building(*this), employees(*this),
+      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this),
+      loans(*this), graph(*this), goals(*this), files(*this), setup_(std::move(setup)),
+      screen_(setup_.screen ? setup_.screen : &nullScreen_),
+      dialogs_(setup_.dialogs ? setup_.dialogs : &nullDialogs_),
+      settings_(setup_.settings ? setup_.settings : &memorySettings_) {}
+
+void Game::status(const std::string& line) { screen_->titleStatus(line); }
+
+void Game::startup() {
+    status("Zorvane v" + programVersion);
+    status("Initializing random number generator");
+    rng.reseed(setup_.seed);
+    status("Loading registry settings");
+    std::string mathPath = getMathFile();
+    status("Loading math variables from " + mathPath);
+    mathFile.loadMath(*this, mathPath);
+    status("setting up forms");
+    status("setting default values");
+    finances.setFunds(math.initfunds);
+    screen_->refresh(View::Expand);
+    setSpeed(0);
+    movies.initShowtimes();
+    loans.loansSetDefaults();
+    building.initBuilding();
+    rating.ratingSetDefaults();
+    status("setting up promotions");
+    promos.promosSetup();
+    status("setting up job positions");
+    employees.positionsSetup();
+    status("loading goals");
+    goals.loadGoals();
+    status("setting up concessions");
+    concessions.initConcessions();
+    status("loading movies database");
+    movies.loadMovieList();
+    status("loading employee database");
+    employees.loadEmployeeDatabase();
+    status("loading arcade database and releasing some games");
+    arcades.initArcades();
+    status("releasing first set of movies");
+    movies.releaseMovies();
+    status("setting up graph");
+    graph.drawGraph();
+    status("starting sound board");
+    autoload();
+    status("invoking next day");
+    calendar.startCalendar();
+}
+
+void Game::startPlay(int goalIndex) {
+    goals.selectGoal(goalIndex);
+    goals.startGoal(goalIndex);
+    playing = true;
+}
+
+// The message channel of the whole game. Slot 0 always logs; slots 1 to 20 log once a day.
+void Game::gameLog(const std::string& text, int slot) {
+    if (slot < 0 || slot > 20)
+        throw GameError(GameError::Kind::Bounds,
+                        "subscript out of range: log slot " + std::to_string(slot));
+    if (logSlots[static_cast<std::size_t>(slot)])
+        return;
+    // The box is emptied without notice once it passes 65000 characters.
+    const bool cleared = logBox.size() > 65000;
+    if (cleared)
+        logBox.clear();
+    logBox += "\r\n";
+    logBox += text;
+    screen_->logLine(text, cleared);
+    if (slot > 0)
+        logSlots[static_cast<std::size_t>(slot)] = true;
+}
+
+void Game::resetLogSlots() {
+    for (int i = 1; i <= 20; ++i)
+        logSlots[static_cast<std::size_t>(i)] = false;
+}
+
+void Game::reportError(const std::string& text) {
+    if (dialogs_->ask(text + "\r\n" + "Continue program?", Buttons::YesNo) == Answer::No)
+        endProcess("the player chose not to continue after an error");
+}
+
+void Game::quitGame() {
+    if (saved)
+        endProcess("quit");
+    switch (dialogs_->ask("Save your theater before quitting?", Buttons::YesNoCancel)) {
+    case Answer::Cancel:
+        return;
+    case Answer::Yes:
+        if (files.saveGame())
+            endProcess("quit after saving");
+        return; // the file dialog was cancelled: the game goes on
+    default:
+        endProcess("quit without saving");
+    }
+}
+
+// A new game is a new process: nothing is reset in place. The saved flag plays no part, so a
+// game saved a moment ago is still asked about.
+void Game::newGame() {
+    if (savedPath.empty()) {
+        if (dialogs_->ask("Unsaved game, proceed?", Buttons::YesNo) == Answer::No)
+            return;
+    } else {
+        switch (dialogs_->ask("Save first?", Buttons::YesNoCancel)) {
+        case Answer::Cancel:
+            return;
+        case Answer::Yes:
+            if (!files.saveGame())
+                return;
+            break;
+        default:
+            break;
+        }
+    }
+    dialogs_->startProcess("\"" + setup_.executable + "\"");
+    endProcess("new game");
+}
+
+void Game::showLose() {
+    ++loseShown;
+    screen_->showLose();
+}
+
+std::string Game::getMathFile() const {
+    const std::string arg = stripQuotes(setup_.commandLine);
+    if (arg.size() >= 4 && toLower(arg.substr(arg.size() - 4)) == ".mth")
+        return arg;
+    return dataPath("math.txt");
+}
+
+void Game::autoload() {
+    const std::string arg = stripQuotes(setup_.commandLine);
+    if (arg.size() >= 4 && toLower(arg.substr(arg.size() - 4)) == ".zvn") {
+        status("Autoloading " + arg);
+        files.loadGame(arg);
+    }
+}
+
+// "Reload math": the file of the session is read again (a .mth from the command line stays
+// the file). What was copied from the math at start-up keeps its value.
+void Game::reloadMath() {
+    std::string path;
+    mathFile.loadMath(*this, path);
+    screen_->refresh(View::Building);
+    screen_->refresh(View::EmployeeGrid);
+    screen_->refresh(View::ConcessionListing);
+    screen_->refresh(View::Promotions);
+}
+
+void Game::endProcess(const std::string& why) {
+    dialogs_->endProcess(why);
+    throw ProcessEnded(why);
+}
+
+void Game::setSpeed(int newSpeed) {
+    if (newSpeed == -2)
+        newSpeed = lastSpeed;
+    if (newSpeed != -1)
+        lastSpeed = newSpeed;
+    else
+        newSpeed = 0;
+    if (newSpeed < 0 || newSpeed > 3)
+        throw GameError(GameError::Kind::Bounds,
+                        "subscript out of range: speed " + std::to_string(newSpeed));
+    speed = newSpeed;
+    screen_->refresh(View::Speed);
+}
+
+int Game::timerInterval() const { return speed == 0 ? 0 : math.gamespeed[speed]; }
+
+std::string Game::dataPath(const std::string& name) const {
+    std::string rel = name;
+    for (char& c : rel)
+        if (c == '\\')
+            c = '/';
+    while (!rel.empty() && rel.front() == '/')
+        rel.erase(rel.begin());
+    if (setup_.folder.empty())
+        return rel;
+    return setup_.folder + (setup_.folder.back() == '/' ? "" : "/") + rel;
+}
+
+} // namespace zorvane

@@ -1,0 +1,38 @@
+#include "core/LineReader.h"
+
+namespace zorvane {
+
+bool LineReader::readLine(std::string& line) {
+    line.clear();
+    std::streambuf* buf = in_.rdbuf();
+    using traits = std::char_traits<char>;
+    int c = buf->sbumpc();
+    if (c == traits::eof()) {
+        in_.setstate(std::ios::eofbit);
+        return false;
+    }
+    while (c != traits::eof()) {
+        if (c == '\n')
+            break;
+        if (c == '\r') {
+            if (buf->sgetc() == '\n')
+                buf->sbumpc();
+            break;
+        }
+        line += static_cast<char>(c);
+        c = buf->sbumpc();
+    }
+    ++line_;
+    return true;
+}
+
+bool splitKeyValue(const std::string& line, std::string& key, std::string& value) {
+    const std::size_t eq = line.find('=');
+    if (eq == std::string::npos || eq == 0)
+        return false;
+    key = line.substr(0, eq);
+    value = line.substr(eq + 1);
+    return true;
+}
+
+} // namespace zorvane

@@ -1,0 +1,45 @@
+#pragma once
+#include <istream>
+#include <string>
+
+namespace zorvane {
+
+// Reads a text file line by line. A line ends at CR LF, at LF or at a lone CR, so files
+// written on any system read alike. Counts lines for error messages.
+class LineReader {
+public:
+    LineReader(std::istream& in, std::string name) : in_(in), name_(std::move(name)) {}
+
+    bool readLine(std::string& line);
+    bool atEnd() { return in_.peek() == std::char_traits<char>::eof(); }
+
+    int lineNumber() const { return line_; }
+    const std::string& name() const { return name_; }
+    // "file.txt line 12: " for messages.
+    std::string where() const { return name_ + " line " + std::to_string(line_) + ": "; }
+
+private:
+    std::istream& in_;
+    std::string name_;
+    int line_ = 0;
+};
+
+// Writes the lines of a saved game, each ended by CR LF.
+class LineWriter {
+public:
+    explicit LineWriter(std::ostream& out) : out_(out) {}
+    void line(const std::string& text) { out_ << text << "\r\n"; }
+    LineWriter& operator<<(const std::string& text) {
+        line(text);
+        return *this;
+    }
+
+private:
+    std::ostream& out_;
+};
+
+// Splits "key=value" at the first "=". Returns false when there is none or it stands first
+// (a key must have at least one character), as every section reader requires.
+bool splitKeyValue(const std::string& line, std::string& key, std::string& value);
+
+} // namespace zorvane

@@ -1,0 +1,26 @@
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace zorvane {
+
+// Small text and number routines the whole game leans on. Pure functions.
+
+std::string stripQuotes(std::string_view text);  // every double quote removed
+std::string digitsOnly(std::string_view text);   // only "0"-"9" and "." survive
+double digitsValue(std::string_view text);        // what a player typed in a money box
+std::string trimRight(std::string_view text);    // trailing blanks (code 32) removed
+std::string toLower(std::string_view text);
+
+std::string formatMoney(double value);      // $1,500 or $1,500.50
+std::string formatMoneyShort(double value); // $999.99, $2k, $2.35k
+
+// value * 100 / (max - min). Kept on purpose: the value is not reduced by min, so this is
+// not the position inside the range (min 10, max 20, value 15 gives 150).
+double getPercent(double min, double max, double value);
+
+// A value with a fixed number of decimals, rounded half away from zero on its 15-digit
+// decimal form (so 2.345 rounds to 2.35 as the player reads it), with "," grouping.
+std::string formatGrouped(double value, int decimals);
+
+} // namespace zorvane

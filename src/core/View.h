@@ -1,0 +1,50 @@
+#pragma once
+
+namespace zorvane {
+
+// The views a screen may have to repaint. The logic only says "this view is stale";
+// the screen asks the logic for the view's content when it next paints.
+enum class View {
+    // main screen
+    Finances,      // refreshFinances: the money summary
+    DayBars,       // refreshDayBars
+    WeekArrows,    // refreshWeekArrows
+    MonthLabels,   // refreshMonthLabels
+    YearLabel,
+    Speed,         // setSpeed: the speed images and the clock
+    Rating,        // the rating bar and figures
+    Expand,        // the details panel
+    // staff
+    Positions,      // refreshPositions
+    EmployeeGrid,   // refreshEmployeeGrid
+    HireTable,      // refreshHireTable
+    EmployeeDetails,// showEmployeeDetails
+    // movies
+    BuyMovies,      // showBuyMovies
+    MyMovies,       // showMyMovies
+    Showtimes,      // showShowtimes
+    TicketPrices,   // showTicketPrice
+    Ads,            // showAds
+    MovieDetails,   // showDetails
+    // concessions
+    ConcessionListing, // updateMyListing
+    ConcessionTables,  // buildTables
+    ConcessionTotals,  // showSalesTotals and the stand's totals
+    // arcade
+    ArcadeBuyGrid,  // refreshBuyGrid
+    ArcadeDetails,  // showGameDetails
+    ArcadeRoom,
+    // reputation
+    Promotions,     // showPromotions
+    // money
+    LoanOffer,      // refreshLoanOffer
+    CurrentLoan,    // refreshCurrentLoan
+    Credit,         // refreshCredit
+    Graph,          // drawGraph
+    // building
+    Building,       // showBuilding
+    // goals
+    GoalInfo,       // showGoalInfo
+};
+
+} // namespace zorvane

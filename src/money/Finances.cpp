@@ -1,0 +1,135 @@
+#include "money/Finances.h"
+
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "core/Toolbox.h"
+
+namespace zorvane {
+
+void Finances::setFunds(double amount) {
+    funds = amount;
+    game_.screen().refresh(View::Finances);
+}
+
+bool Finances::spend(double amount, const std::string& department) {
+    if (funds - amount < 1) {
+        game_.screen().refresh(View::Finances);
+        return false;
+    }
+    setFunds(funds - amount);
+    const std::string word = toLower(department);
+    if (word == "promotions")
+        deppromo += amount;
+    else if (word == "labor")
+        deplabor += amount;
+    else if (word == "movie")
+        depmovie += amount;
+    else if (word == "arcades")
+        deparcade += amount;
+    else if (word == "concessions")
+        depconcessions += amount;
+    else if (word == "loan")
+        deploan += amount;
+    totalspent += amount;
+    game_.screen().refresh(View::Finances);
+    return true;
+}
+
+void Finances::earn(double amount, const std::string& department) {
+    setFunds(funds + amount);
+    totalincome += amount;
+    const std::string word = toLower(department);
+    if (word == "movie")
+        incdepmovie += amount;
+    else if (word == "arcade")
+        incdeparcade += amount;
+    else if (word == "concessions")
+        incdepconcessions += amount;
+    game_.screen().refresh(View::Finances);
+}
+
+void Finances::financesNextMonth(int month) {
+    // The month comes as 1 to 12, so the year's month ends land on 0 to 11; a 0 wraps to 11.
+    const int index = month - 1 < 0 ? 11 : month - 1;
+    histfunds.at(static_cast<std::size_t>(index)) = funds;
+}
+
+double Finances::getHistFunds(int index) const {
+    if (index < 0 || index > 12)
+        throw GameError(GameError::Kind::Bounds,
+                        "subscript out of range: histfunds(" + std::to_string(index) + ")");
+    return histfunds[static_cast<std::size_t>(index)];
+}
+
+std::string Finances::getProfit() const { return formatMoney(totalincome - totalspent); }
+
+void Finances::saveFinances(LineWriter& out) const {
+    out << "<finances>";
+    out << "funds=" + numberText(funds);
+    out << "totalspent=" + numberText(totalspent);
+    out << "totalincome=" + numberText(totalincome);
+    // Index 0 is not written and index 12 is: after a load the first month of the year
+    // keeps whatever stood there before. Saved games depend on this, so it stays.
+    for (int i = 1; i <= 12; ++i)
+        out << "histfunds(" + digitsOnly(std::to_string(i)) + ")=" + numberText(histfunds[i]);
+    out << "deppromo=" + numberText(deppromo);
+    out << "deplabor=" + numberText(deplabor);
+    out << "depmovie=" + numberText(depmovie);
+    out << "deparcade=" + numberText(deparcade);
+    out << "depconcessions=" + numberText(depconcessions);
+    out << "deploan=" + numberText(deploan);
+    out << "incdepmovie=" + numberText(incdepmovie);
+    out << "incdeparcade=" + numberText(incdeparcade);
+    out << "incdepconcessions=" + numberText(incdepconcessions);
+    out << "</finances>";
+}
+
+void Finances::loadFinances(LineReader& in) {
+    std::string line, key, value;
+    while (in.readLine(line)) {
+        if (line.rfind("</", 0) == 0)
+            break;
+        if (!splitKeyValue(line, key, value))
+            continue;
+        // Unlike the other sections, keys are case sensitive here.
+        const double v = leadingNumber(value);
+        if (key.compare(0, 9, "histfunds") == 0) {
+            const std::size_t open = key.find('(');
+            const std::string inside =
+                open == std::string::npos ? "" : key.substr(open + 1, key.find(')', open) - open - 1);
+            const int index = toInt16(leadingNumber(inside));
+            if (index < 0 || index > 12)
+                throw GameError(GameError::Kind::Bounds, in.where() + "histfunds index " +
+                                                             std::to_string(index) + " out of range");
+            histfunds[static_cast<std::size_t>(index)] = v;
+        } else if (key == "funds") {
+            funds = v;
+        } else if (key == "totalspent") {
+            totalspent = v;
+        } else if (key == "totalincome") {
+            totalincome = v;
+        } else if (key == "deppromo") {
+            deppromo = v;
+        } else if (key == "deplabor") {
+            deplabor = v;
+        } else if (key == "depmovie") {
+            depmovie = v;
+        } else if (key == "deparcade") {
+            deparcade = v;
+        } else if (key == "depconcessions") {
+            depconcessions = v;
+        } else if (key == "deploan") {
+            deploan = v;
+        } else if (key == "incdepmovie") {
+            incdepmovie = v;
+        } else if (key == "incdeparcade") {
+            incdeparcade = v;
+        } else if (key == "incdepconcessions") {
+            incdepconcessions = v;
+        }
+    }
+    game_.screen().refresh(View::Finances);
+}
+
+} // namespace zorvane

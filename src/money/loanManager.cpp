@@ -1,0 +1,8 @@
+#include "money/loanManager.h"
+
+namespace zorvane {
+
+void loanManager::loansSetDefaults() { }
+void loanManager::loansNextMonth() { }
+
+} // namespace zorvane

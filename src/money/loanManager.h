@@ -1,0 +1,23 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class loanManager {
+public:
+    explicit loanManager(Game& game) : game_(game) {}
+
+    void loansSetDefaults();
+    void loansNextMonth();
+    double getDebt() const { return 0; }
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,25 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class MovieManager {
+public:
+    explicit MovieManager(Game& game) : game_(game) {}
+
+    void initShowtimes();
+    void loadMovieList();
+    void releaseMovies();
+    void nextDayMovies();
+    void nextYearMovies();
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

@@ -1,0 +1,10 @@
+#include "reputation/ratingManager.h"
+
+namespace zorvane {
+
+void ratingManager::ratingSetDefaults() { }
+void ratingManager::ratingNextDay() { }
+void ratingManager::ratingNextMonth() { }
+void ratingManager::ratingNextYear() { }
+
+} // namespace zorvane

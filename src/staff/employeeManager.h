@@ -1,0 +1,25 @@
+#pragma once
+#include <string>
+
+namespace zorvane {
+
+class Game;
+
+// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+class employeeManager {
+public:
+    explicit employeeManager(Game& game) : game_(game) {}
+
+    void positionsSetup();
+    void loadEmployeeDatabase();
+    void employeesNextDay();
+    void employeesNextMonth();
+    int positionEmployee(int) const { return 0; }
+
+    Game& game() { return game_; }
+
+private:
+    Game& game_;
+};
+
+} // namespace zorvane

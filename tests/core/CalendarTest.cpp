@@ -1,0 +1,118 @@
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+struct CalendarFixture : ::testing::Test {
+    DataFolder data;
+    std::unique_ptr<TestGame> game;
+
+    void start() {
+        game = std::make_unique<TestGame>(data.path().string());
+        (*game)->startup();
+    }
+    Calendar& cal() { return (*game)->calendar; }
+    void days(int n) {
+        for (int i = 0; i < n; ++i)
+            cal().nextDay();
+    }
+};
+
+} // namespace
+
+TEST_F(CalendarFixture, StartUpRunsTheFirstDay) {
+    start();
+    EXPECT_EQ(cal().currentday, 1);
+    EXPECT_EQ(cal().currentweek, 0);
+    EXPECT_EQ(game->screen.count(" -- Another day has arrived --"), 1);
+    // The first day meets empty positions: the theater refuses business.
+    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"), 1);
+    EXPECT_EQ((*game)->speed, 0);
+}
+
+TEST_F(CalendarFixture, WeeksMonthsAndYearsRollOver) {
+    start();
+    days(6); // start-up's day plus six: a whole week
+    EXPECT_EQ(cal().currentday, 0);
+    EXPECT_EQ(cal().currentweek, 1);
+    EXPECT_EQ(cal().currentmonth, 0);
+    days(21);
+    EXPECT_EQ(cal().currentmonth, 1);
+    EXPECT_EQ(cal().currentweek, 0);
+    EXPECT_EQ(cal().currentday, 0);
+    // The first month's end is filed under index 0 (nextMonth hands over 1).
+    EXPECT_EQ((*game)->finances.histfunds[0], (*game)->finances.funds);
+    days(336 - 28);
+    EXPECT_EQ(cal().currentyear, 1);
+    EXPECT_EQ(cal().currentmonth, 0);
+    EXPECT_EQ((*game)->finances.histfunds[11], (*game)->finances.funds);
+    EXPECT_EQ((*game)->finances.histfunds[12], 0);
+}
+
+TEST_F(CalendarFixture, EmptyPositionsRefuseBusinessOnceADayAndPause) {
+    start();
+    (*game)->setSpeed(2);
+    days(3);
+    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"), 4);
+    EXPECT_EQ((*game)->speed, 0);
+    EXPECT_EQ((*game)->lastSpeed, 2);
+    EXPECT_EQ(cal().currentday, 4); // days still pass on clicks
+}
+
+TEST_F(CalendarFixture, FundsTestWarnsWithoutDebt) {
+    data.setMath({{"fundsmin", "100"}});
+    start();
+    (*game)->finances.funds = 100; // equal passes
+    (*game)->setSpeed(3);
+    days(1);
+    EXPECT_EQ(game->screen.count("You're not going to make it, take out a loan now!!!"), 0);
+    (*game)->finances.funds = 99.99;
+    (*game)->setSpeed(3);
+    days(2);
+    EXPECT_EQ(game->screen.count("You're not going to make it, take out a loan now!!!"), 2);
+    EXPECT_EQ((*game)->loseShown, 0); // with no debt the game cannot be lost by low funds
+    EXPECT_EQ((*game)->speed, 0);
+    EXPECT_EQ((*game)->lastSpeed, 3);
+}
+
+TEST_F(CalendarFixture, SavedSectionAndItsReader) {
+    start();
+    days(30);
+    std::ostringstream out;
+    LineWriter w(out);
+    cal().saveCalendar(w);
+    EXPECT_EQ(out.str(), "<calendar>\r\ncurrentday=3\r\ncurrentweek=0\r\ncurrentmonth=1\r\n"
+                         "currentyear=0\r\nonedayclose=0\r\n</calendar>\r\n");
+
+    std::istringstream in("CURRENTDAY=5.5\nx=1\n=7\ncurrentweek 2\nonedayclose= 1\n</calendar>\ncurrentyear=9\n");
+    LineReader r(in, "game.zvn");
+    cal().loadCalendar(r);
+    EXPECT_EQ(cal().currentday, 6); // 5.5 rounds to the even 6
+    EXPECT_EQ(cal().currentweek, 0); // no "=": ignored, keeps its value
+    EXPECT_EQ(cal().currentmonth, 1);
+    EXPECT_EQ(cal().currentyear, 0); // behind the closing tag
+    EXPECT_TRUE(cal().onedayclose);
+    // The next day clears the flag before anybody asks.
+    days(1);
+    EXPECT_FALSE(cal().onedayclose);
+}
+
+TEST_F(CalendarFixture, LoadedWeekOutOfRangeDoesNotBreakTheArrows) {
+    start();
+    std::istringstream in("currentweek=-9\n");
+    LineReader r(in, "game.zvn");
+    cal().loadCalendar(r);
+    EXPECT_EQ(cal().weekArrows(), "");
+    std::istringstream big("currentyear=70000\n");
+    LineReader r2(big, "game.zvn");
+    EXPECT_THROW(cal().loadCalendar(r2), GameError);
+}

@@ -1,0 +1,122 @@
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+struct FinancesFixture : ::testing::Test {
+    TempDir dir;
+    TestGame game{dir.path().string()};
+    Finances& f() { return game->finances; }
+};
+
+} // namespace
+
+TEST_F(FinancesFixture, SpendRefusesWhenLessThanOneWouldRemain) {
+    f().setFunds(100);
+    EXPECT_FALSE(f().spend(99.5, "labor"));
+    EXPECT_EQ(f().deplabor, 0);
+    EXPECT_EQ(f().totalspent, 0);
+    EXPECT_TRUE(f().spend(99, "labor"));
+    EXPECT_EQ(f().funds, 1);
+    EXPECT_EQ(f().deplabor, 99);
+    EXPECT_TRUE(f().spend(0, "labor")); // exactly 1 remains: accepted
+    f().setFunds(0.5);
+    EXPECT_FALSE(f().spend(0, "labor")); // below 1 even nothing is refused
+    EXPECT_TRUE(f().spend(-10, "movie")); // a negative amount passes like any other
+    EXPECT_EQ(f().funds, 10.5);
+}
+
+TEST_F(FinancesFixture, DepartmentWords) {
+    f().setFunds(10000);
+    f().spend(1, "ARCADES");
+    f().spend(2, "arcade"); // no department, but counted in the total
+    f().spend(4, "");
+    f().spend(8, "Promotions");
+    f().spend(16, "loan");
+    f().spend(32, "concessions");
+    f().spend(64, "movie");
+    EXPECT_EQ(f().deparcade, 1);
+    EXPECT_EQ(f().deppromo, 8);
+    EXPECT_EQ(f().deploan, 16);
+    EXPECT_EQ(f().depconcessions, 32);
+    EXPECT_EQ(f().depmovie, 64);
+    EXPECT_EQ(f().totalspent, 127);
+
+    f().earn(100, "arcades"); // the income word has no s: no department
+    f().earn(10, "arcade");
+    f().earn(1, "ads");
+    f().earn(1000, "MOVIE");
+    EXPECT_EQ(f().incdeparcade, 10);
+    EXPECT_EQ(f().incdepmovie, 1000);
+    EXPECT_EQ(f().totalincome, 1111);
+    EXPECT_EQ(f().funds, 10000 - 127 + 1111);
+    EXPECT_EQ(f().getProfit(), "$984");
+}
+
+TEST_F(FinancesFixture, SetFundsTouchesNoTotal) {
+    f().setFunds(5000);
+    EXPECT_EQ(f().totalspent, 0);
+    EXPECT_EQ(f().totalincome, 0);
+    EXPECT_EQ(f().getProfit(), "$0");
+}
+
+TEST_F(FinancesFixture, HistFundsAndItsBounds) {
+    f().setFunds(7);
+    f().financesNextMonth(1);
+    f().setFunds(8);
+    f().financesNextMonth(12);
+    f().setFunds(9);
+    f().financesNextMonth(0); // wraps to the last month
+    EXPECT_EQ(f().getHistFunds(0), 7);
+    EXPECT_EQ(f().getHistFunds(11), 9);
+    EXPECT_EQ(f().getHistFunds(12), 0);
+    EXPECT_THROW(f().getHistFunds(13), GameError);
+    EXPECT_THROW(f().getHistFunds(-1), GameError);
+}
+
+TEST_F(FinancesFixture, SavedSectionLosesMonthZero) {
+    f().setFunds(1234.5);
+    f().spend(0.25, "labor");
+    for (int m = 1; m <= 12; ++m) {
+        f().setFunds(1000 + m);
+        f().financesNextMonth(m);
+    }
+    std::ostringstream out;
+    LineWriter w(out);
+    f().saveFinances(w);
+    const std::string text = out.str();
+    EXPECT_EQ(text.find("histfunds(0)"), std::string::npos);
+    EXPECT_NE(text.find("histfunds(12)=0\r\n"), std::string::npos);
+    EXPECT_NE(text.find("deplabor=0.25\r\n"), std::string::npos);
+
+    TempDir other;
+    TestGame loaded{other.path().string()};
+    std::istringstream in(text.substr(text.find('\n') + 1)); // behind the open tag
+    LineReader r(in, "game.zvn");
+    loaded->finances.loadFinances(r);
+    EXPECT_EQ(loaded->finances.histfunds[0], 0);
+    for (int i = 1; i <= 11; ++i)
+        EXPECT_EQ(loaded->finances.histfunds[i], f().histfunds[i]);
+    EXPECT_EQ(loaded->finances.funds, f().funds);
+    EXPECT_EQ(loaded->finances.deplabor, 0.25);
+}
+
+TEST_F(FinancesFixture, LoadedKeysAreCaseSensitiveAndIndexesChecked) {
+    std::istringstream in("FUNDS=5\nfunds=6\ntotalspent\nhistfunds(3)=33\n</finances>\nfunds=9\n");
+    LineReader r(in, "game.zvn");
+    f().loadFinances(r);
+    EXPECT_EQ(f().funds, 6);
+    EXPECT_EQ(f().histfunds[3], 33);
+    std::istringstream bad("histfunds(13)=1\n");
+    LineReader r2(bad, "game.zvn");
+    EXPECT_THROW(f().loadFinances(r2), GameError);
+}
