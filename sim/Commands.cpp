@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "StateJson.h"
+#include "Subsystems.h"
 
 #include <charconv>
 
@@ -104,6 +105,15 @@ const CommandTable& commandTable() {
     static const CommandTable table = [] {
         CommandTable t;
         addCoreCommands(t);
+        addStaffCommands(t);
+        addBuildingCommands(t);
+        addMovieCommands(t);
+        addConcessionCommands(t);
+        addArcadeCommands(t);
+        addPromoCommands(t);
+        addLoanCommands(t);
+        addGoalCommands(t);
+        addFileCommands(t);
         return t;
     }();
     return table;

@@ -1,5 +1,6 @@
 #include "StateJson.h"
 
+#include "Subsystems.h"
 #include "core/MathFile.h"
 
 namespace zorvane::sim {
@@ -86,6 +87,14 @@ json gameState(Game& game) {
                      {"currentmonth", static_cast<int>(game.calendar.currentmonth)},
                      {"currentyear", static_cast<int>(game.calendar.currentyear)},
                      {"onedayclose", game.calendar.onedayclose}};
+    addStaffState(game, s);
+    addBuildingState(game, s);
+    addMovieState(game, s);
+    addConcessionState(game, s);
+    addArcadeState(game, s);
+    addReputationState(game, s);
+    addLoanState(game, s);
+    addGoalState(game, s);
     s["math"] = mathState(game);
     return s;
 }

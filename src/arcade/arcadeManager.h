@@ -14,6 +14,8 @@ public:
     void arcadesNextMonth();
     void arcadesNextYear();
     void doArcadeBusiness(int);
+    int getMachineCount() const { return 0; }
+    int getAveragePop() const { return 0; }
 
     Game& game() { return game_; }
 

@@ -15,6 +15,9 @@ public:
     void buildingNextMonth();
     void buildingNextYear();
     bool isInOrder() const { return true; }
+    int getSeating() const { return 0; }
+    int getCondition() const { return 0; }
+    double getRent() const { return 0; }
 
     Game& game() { return game_; }
 

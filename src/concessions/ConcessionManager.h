@@ -15,6 +15,7 @@ public:
     void concessionsNextMonth();
     void concessionsNextYear();
     void doConcessionBusiness(int);
+    int getQualityScore() const { return 0; }
 
     Game& game() { return game_; }
 

@@ -42,7 +42,7 @@ void Calendar::nextDay() {
 void Calendar::fundsTest() {
     if (!(game_.finances.getFunds() < game_.math.fundsmin))
         return;
-    if (game_.loans.getDebt() > 0) {
+    if (game_.loans.getBalance() > 0) {
         game_.gameLog("It's hopeless!!!", 0);
         game_.showLose();
     } else {

@@ -12,7 +12,8 @@ public:
 
     void loansSetDefaults();
     void loansNextMonth();
-    double getDebt() const { return 0; }
+    double getBalance() const { return 0; }
+    double getCreditScore() const { return 0; }
 
     Game& game() { return game_; }
 

@@ -15,6 +15,8 @@ public:
     void releaseMovies();
     void nextDayMovies();
     void nextYearMovies();
+    double getDemand(int) { return 0; }
+    int getAds(int) const { return 0; }
 
     Game& game() { return game_; }
 

@@ -13,6 +13,8 @@ public:
     void promosSetup();
     void promosNextDay();
     void promosNextYear();
+    int getPromoPoints() const { return 0; }
+    double getPromoCost() const { return 0; }
 
     Game& game() { return game_; }
 

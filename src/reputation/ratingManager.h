@@ -14,6 +14,7 @@ public:
     void ratingNextDay();
     void ratingNextMonth();
     void ratingNextYear();
+    int getRating() const { return 0; }
 
     Game& game() { return game_; }
 

@@ -15,6 +15,10 @@ public:
     void employeesNextDay();
     void employeesNextMonth();
     int positionEmployee(int) const { return 0; }
+    double getMinWage() const { return 0; }
+    int getAverageAnger() const { return 0; }
+    int getAverageAmbition() const { return 0; }
+    double getAverageWage() const { return 0; }
 
     Game& game() { return game_; }
 

@@ -1,0 +1,7 @@
+#include "Subsystems.h"
+
+namespace zorvane::sim {
+
+void addFileCommands(CommandTable&) {}
+
+} // namespace zorvane::sim

@@ -1,0 +1,8 @@
+#include "Subsystems.h"
+
+namespace zorvane::sim {
+
+void addMovieCommands(CommandTable&) {}
+void addMovieState(Game&, nlohmann::json&) {}
+
+} // namespace zorvane::sim
