@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class arcadeManager {
@@ -16,6 +18,9 @@ public:
     void doArcadeBusiness(int);
     int getMachineCount() const { return 0; }
     int getAveragePop() const { return 0; }
+
+    void saveArcades(LineWriter& out) const;
+    void loadArcades(LineReader& in);
 
     Game& game() { return game_; }
 

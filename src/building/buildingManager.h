@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class buildingManager {
@@ -18,6 +20,9 @@ public:
     int getSeating() const { return 0; }
     int getCondition() const { return 0; }
     double getRent() const { return 0; }
+
+    void saveBuilding(LineWriter& out) const;
+    void loadBuilding(LineReader& in);
 
     Game& game() { return game_; }
 

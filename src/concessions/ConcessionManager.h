@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class ConcessionManager {
@@ -16,6 +18,9 @@ public:
     void concessionsNextYear();
     void doConcessionBusiness(int);
     int getQualityScore() const { return 0; }
+
+    void saveConcessions(LineWriter& out) const;
+    void loadConcessions(LineReader& in);
 
     Game& game() { return game_; }
 

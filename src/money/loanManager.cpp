@@ -4,5 +4,7 @@ namespace zorvane {
 
 void loanManager::loansSetDefaults() { }
 void loanManager::loansNextMonth() { }
+void loanManager::saveLoans(LineWriter&) const { }
+void loanManager::loadLoans(LineReader&) { }
 
 } // namespace zorvane

@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class loanManager {
@@ -14,6 +16,9 @@ public:
     void loansNextMonth();
     double getBalance() const { return 0; }
     double getCreditScore() const { return 0; }
+
+    void saveLoans(LineWriter& out) const;
+    void loadLoans(LineReader& in);
 
     Game& game() { return game_; }
 

@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class MovieManager {
@@ -17,6 +19,11 @@ public:
     void nextYearMovies();
     double getDemand(int) { return 0; }
     int getAds(int) const { return 0; }
+
+    void saveMovies(LineWriter& out) const;
+    void loadMovies(LineReader& in);
+    void saveShowtimes(LineWriter& out) const;
+    void loadShowtimes(LineReader& in);
 
     Game& game() { return game_; }
 

@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class promoManager {
@@ -15,6 +17,9 @@ public:
     void promosNextYear();
     int getPromoPoints() const { return 0; }
     double getPromoCost() const { return 0; }
+
+    void savePromotions(LineWriter& out) const;
+    void loadPromotions(LineReader& in);
 
     Game& game() { return game_; }
 

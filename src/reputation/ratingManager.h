@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class ratingManager {
@@ -15,6 +17,9 @@ public:
     void ratingNextMonth();
     void ratingNextYear();
     int getRating() const { return 0; }
+
+    void saveRatings(LineWriter& out) const;
+    void loadRatings(LineReader& in);
 
     Game& game() { return game_; }
 

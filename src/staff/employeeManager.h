@@ -4,6 +4,8 @@
 namespace zorvane {
 
 class Game;
+class LineReader;
+class LineWriter;
 
 // Placeholder until this manager is built: its steps do nothing and it reads as empty.
 class employeeManager {
@@ -19,6 +21,11 @@ public:
     int getAverageAnger() const { return 0; }
     int getAverageAmbition() const { return 0; }
     double getAverageWage() const { return 0; }
+
+    void savePositions(LineWriter& out) const;
+    void loadPositions(LineReader& in);
+    void saveEmployees(LineWriter& out) const;
+    void loadEmployees(LineReader& in);
 
     Game& game() { return game_; }
 
