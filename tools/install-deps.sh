@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Installs the Debian 12 packages Zorvane needs to build and test, if any are missing.
+# Usage: tools/install-deps.sh [game]   ("game" adds the Qt 6 packages of the window)
+set -euo pipefail
+
+packages=(build-essential cmake g++ pkg-config
+          libgtest-dev libgmock-dev googletest libbenchmark-dev
+          libcli11-dev nlohmann-json3-dev)
+if [[ "${1:-}" == "game" ]]; then
+    packages+=(qt6-base-dev qt6-multimedia-dev)
+fi
+
+missing=()
+for p in "${packages[@]}"; do
+    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+        missing+=("$p")
+    fi
+done
+if ((${#missing[@]} == 0)); then
+    exit 0
+fi
+
+echo "Installing: ${missing[*]}"
+sudo=""
+if [[ $(id -u) -ne 0 ]]; then
+    sudo="sudo"
+fi
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
