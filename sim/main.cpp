@@ -1,5 +1,7 @@
 // zorvane-sim: the game without a window. A player's decisions come from a script.
 #include "Simulator.h"
+#include "lab/Lab.h"
+#include "lab/Strategy.h"
 
 #include "core/Game.h"
 
@@ -42,6 +44,18 @@ int main(int argc, char** argv) {
     app.add_flag("--quiet", options.quiet, "print only what commands ask for");
     app.set_version_flag("--version", "zorvane-sim " + Game::programVersion);
     app.add_option("script", script, "script file; standard input when absent or -");
+
+    lab::LabOptions labOptions;
+    std::string csvPath, chartPath;
+    auto* labOpt = app.add_option("--lab", labOptions.strategy,
+                                  "balance lab: play many games with a built-in strategy")
+                       ->check(CLI::IsMember(lab::strategyNames()));
+    app.add_option("--games", labOptions.games, "lab: number of games")->check(CLI::Range(1, 1000000));
+    app.add_option("--years", labOptions.years, "lab: game years each")->check(CLI::Range(1, 1000));
+    app.add_option("--threads", labOptions.threads, "lab: threads (default: all cores)")
+        ->check(CLI::Range(1, 1024));
+    app.add_option("--csv", csvPath, "lab: write one row per game and month to this file");
+    app.add_option("--chart", chartPath, "lab: draw the month-end funds fan chart to this SVG file");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
@@ -51,6 +65,24 @@ int main(int argc, char** argv) {
     options.seed = seedOpt->count() ? seed : secondsSinceMidnight();
     if (options.dataDir.empty())
         options.dataDir = sim::defaultDataDir(argv[0]);
+
+    if (labOpt->count()) {
+        labOptions.dataDir = options.dataDir;
+        labOptions.arg = options.arg;
+        labOptions.goal = options.goal;
+        labOptions.seed = seedOpt->count() ? seed : 1;
+        const lab::LabResult result = lab::runLab(labOptions);
+        lab::printSummary(result, std::cout);
+        if (!csvPath.empty()) {
+            std::ofstream csv(csvPath);
+            lab::writeCsv(result, csv);
+        }
+        if (!chartPath.empty()) {
+            std::ofstream chart(chartPath);
+            lab::writeChart(result, chart);
+        }
+        return 0;
+    }
 
     std::vector<std::string> lines;
     if (script == "-") {

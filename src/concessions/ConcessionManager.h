@@ -1,4 +1,7 @@
 #pragma once
+#include "concessions/Concession.h"
+
+#include <array>
 #include <string>
 
 namespace zorvane {
@@ -7,25 +10,64 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// Placeholder until this manager is built: its steps do nothing and it reads as empty.
+// The stand's figures below the rows of the two tabs.
+struct ConcessionTotals {
+    std::string totalMyCost;     // lblTotalMyCost: sum of the base costs
+    std::string totalSold;       // lblTotalSold
+    std::string totalProfit;     // lblTotalProfit
+    std::string totalTotalCost;  // lblTotalTotalCost: the month's whole order
+    std::string incomeLastMonth; // lblTotalIncomeLastMonth
+};
+
+// The theater's concession stand: owns the five items, sends each show's crowd past them,
+// steps them through the days, months and years, and gives the rating its quality score.
 class ConcessionManager {
-public:
-    explicit ConcessionManager(Game& game) : game_(game) {}
+  public:
+    static constexpr int itemCount = 5;
+
+    explicit ConcessionManager(Game& game);
 
     void initConcessions();
     void concessionsNextDay();
     void concessionsNextMonth();
     void concessionsNextYear();
-    void doConcessionBusiness(int);
-    int getQualityScore() const { return 0; }
+    void doConcessionBusiness(int crowd);
+    int getQualityScore() const;
+
+    void setItemQuality(int item, int quality);
+    void setItemPrice(int item, double price);
+    void setItemBuyQuant(int item, int units);
+    void rebuildAllTables();
+    void showTotalMonthlyCost();
+    void showSalesTotals();
+    void showLastMonthIncome();
 
     void saveConcessions(LineWriter& out) const;
     void loadConcessions(LineReader& in);
 
+    // Item 0 to 4; any other number is a bounds error.
+    Concession& item(int index);
+    const Concession& item(int index) const;
+
+    // The number of customers of a crowd who come to the stand.
+    static int visitorsOf(int crowd, int percentconcessions);
+
+    // The figures of the stand's totals, as the screen shows them. The sales totals and the
+    // month's income are those of the moment they were last shown, as their labels keep
+    // them; the month's order is the running one.
+    ConcessionTotals totals() const;
+
     Game& game() { return game_; }
 
-private:
+  private:
     Game& game_;
+    std::array<Concession, itemCount> items_;
+
+    // What the labels hold since the stand last showed them.
+    double shownTotalMyCost_ = 0;
+    int shownTotalSold_ = 0;
+    double shownTotalProfit_ = 0;
+    double shownIncomeLastMonth_ = 0;
 };
 
 } // namespace zorvane

@@ -93,7 +93,7 @@ void Calendar::nextYear() {
 // empty-position message is kept to once a day by its log slot, though the test runs twice.
 bool Calendar::canDoBusiness() {
     for (int i = 1; i <= 7; ++i) {
-        if (game_.employees.positionEmployee(i) < 1) {
+        if (game_.employees.getPosition(i).getMyEmployee() < 1) {
             game_.gameLog("Cannot do business today: Not all employee positions are filled", 7);
             game_.setSpeed(-1);
             return false;

@@ -160,10 +160,10 @@ void Game::autoload() {
 void Game::reloadMath() {
     std::string path;
     mathFile.loadMath(*this, path);
-    screen_->refresh(View::Building);
-    screen_->refresh(View::EmployeeGrid);
+    building.showBuilding();         // recomputes the building's costs
+    employees.refreshEmployeeGrid(); // the staff display renumbers the staff
     screen_->refresh(View::ConcessionListing);
-    screen_->refresh(View::Promotions);
+    promos.showPromotions();         // recomputes the running points against the cap
 }
 
 void Game::endProcess(const std::string& why) {

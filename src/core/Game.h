@@ -93,6 +93,7 @@ public:
     Int16 speed;
     Int16 lastSpeed;
     int loseShown = 0;            // how many times the lost-game picture was asked for
+    int goalShown = 0;            // how many times the goal-reached picture was asked for
     bool playing = false;         // "Play !" was pressed at least once
 
     Calendar calendar;

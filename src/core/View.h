@@ -45,6 +45,7 @@ enum class View {
     Building,       // showBuilding
     // goals
     GoalInfo,       // showGoalInfo
+    GoalList,       // lstGoals: the names of the goals, list index = goal index
 };
 
 } // namespace zorvane

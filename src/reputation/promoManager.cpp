@@ -1,11 +1,151 @@
 #include "reputation/promoManager.h"
 
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "core/Toolbox.h"
+
 namespace zorvane {
 
-void promoManager::promosSetup() { }
-void promoManager::promosNextDay() { }
-void promoManager::promosNextYear() { }
-void promoManager::savePromotions(LineWriter&) const { }
-void promoManager::loadPromotions(LineReader&) { }
+const std::array<const char*, 4> promoManager::gridHeader = {"Promo", "PTS", "#", "Price"};
+
+namespace {
+const std::array<const char*, 5> mediaNames = {"Nickel", "Paper", "Radio", "Billboard", "TV"};
+}
+
+std::size_t promoManager::checkedIndex(int index) const {
+    if (index < 0 || index >= mediaCount)
+        throw GameError(GameError::Kind::Bounds,
+                        "subscript out of range: promotion " + std::to_string(index));
+    return static_cast<std::size_t>(index);
+}
+
+// Names the media and sets each ad's daily cost from the math file. The point labels are
+// written here once: a later reload of the math file changes the points but not the labels.
+void promoManager::promosSetup() {
+    for (std::size_t i = 0; i < mediaCount; ++i) {
+        promoName[i] = mediaNames[i];
+        promoCost[i] = game_.math.promocost[i];
+        const int points = game_.math.promo[i];
+        pointLabels_[i] = "+" + std::to_string(points) + (points == 1 ? " Point" : " Points");
+    }
+    showPromotions();
+}
+
+int promoManager::pointsNow() const {
+    int sum = 0;
+    for (std::size_t i = 0; i < mediaCount; ++i)
+        sum = add16(sum, mul16(promoRunning[i], game_.math.promo[i]));
+    return sum;
+}
+
+// The points of all running ads, in 16-bit arithmetic; the sum is kept as the last total.
+int promoManager::getPromoPoints() const {
+    totalPoints_ = pointsNow();
+    return totalPoints_;
+}
+
+// What all running ads cost for one day.
+double promoManager::getPromoCost() const {
+    double sum = 0;
+    for (std::size_t i = 0; i < mediaCount; ++i)
+        sum += promoRunning[i] * promoCost[i];
+    return sum;
+}
+
+// One more ad of a medium, if its points fit under promomax on top of the last total.
+// Buying costs nothing now: the money goes only by the daily charge.
+void promoManager::addPromo(int index) {
+    const std::size_t i = checkedIndex(index);
+    if (add16(game_.math.promo[i], totalPoints_) <= game_.math.promomax) {
+        promoRunning[i] += 1;
+        showPromotions();
+    } else {
+        game_.gameLog("Could not add this promotion, hit maximum possible promotion level.", 0);
+    }
+}
+
+void promoManager::dropPromo(int index) {
+    const std::size_t i = checkedIndex(index);
+    if (promoRunning[i] >= 1) {
+        promoRunning[i] -= 1;
+        showPromotions();
+    } else {
+        game_.gameLog("You aren't running any " + promoName[i] + " ads!", 0);
+    }
+}
+
+void promoManager::dropAllPromos() {
+    for (Int16& running : promoRunning)
+        running = 0;
+    showPromotions();
+}
+
+// The day's charge for all running ads, all or nothing: when it is refused nothing is paid
+// and every ad stops. With no ad running the charge is 0, refused only below 1 in funds.
+void promoManager::promosNextDay() {
+    const double total = getPromoCost();
+    if (!game_.finances.spend(total, "promotions")) {
+        game_.gameLog("Couldn't afford to pay promotions, all promos stopped!!", 0);
+        dropAllPromos();
+    }
+}
+
+// Each year every medium's daily cost grows by the inflation percent.
+void promoManager::promosNextYear() {
+    for (double& cost : promoCost)
+        cost = (game_.math.inflation * 0.01) * cost + cost;
+    showPromotions();
+}
+
+// Recomputes the total points (addPromo measures against it) and has the screen repainted.
+void promoManager::showPromotions() {
+    getPromoPoints();
+    game_.screen().refresh(View::Promotions);
+}
+
+PromotionsView promoManager::view() const {
+    PromotionsView v;
+    v.pointLabels = pointLabels_;
+    for (std::size_t i = 0; i < mediaCount; ++i) {
+        v.costLabels[i] = formatMoney(promoCost[i]);
+        const int pts = mul16(promoRunning[i], game_.math.promo[i]);
+        if (pts > 0)
+            v.rows.push_back({promoName[i], std::to_string(pts), std::to_string(promoRunning[i]),
+                              formatMoneyShort(promoRunning[i] * promoCost[i])});
+    }
+    v.currentPromoLevel = std::to_string(pointsNow());
+    v.totalDailyPayments = formatMoney(getPromoCost());
+    return v;
+}
+
+void promoManager::savePromotions(LineWriter& out) const {
+    out << "<promotions>";
+    for (std::size_t i = 0; i < mediaCount; ++i) {
+        out << "running " + std::to_string(i) + "=" + std::to_string(promoRunning[i]);
+        out << "cost " + std::to_string(i) + "=" + numberText(promoCost[i]);
+    }
+    out << "</promotions>";
+}
+
+// Reads "running 0" to "running 4" and "cost 0" to "cost 4"; a saved game thus keeps the
+// grown costs, not the math file's.
+void promoManager::loadPromotions(LineReader& in) {
+    std::string line, key, value;
+    while (in.readLine(line)) {
+        if (line.rfind("</", 0) == 0)
+            break;
+        if (!splitKeyValue(line, key, value))
+            continue;
+        key = toLower(key);
+        for (std::size_t i = 0; i < mediaCount; ++i) {
+            if (key == "running " + std::to_string(i))
+                promoRunning[i] = toInt16(leadingNumber(value));
+            else if (key == "cost " + std::to_string(i))
+                promoCost[i] = leadingNumber(value);
+        }
+    }
+    showPromotions();
+}
 
 } // namespace zorvane

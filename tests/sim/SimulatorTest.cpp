@@ -11,13 +11,13 @@ using namespace zorvane::test;
 
 namespace {
 
-struct Run {
+struct SimRun {
     int status = 0;
     std::string out;
     std::string err;
 };
 
-Run simulate(const std::string& dataDir, const std::vector<std::string>& script,
+SimRun simulate(const std::string& dataDir, const std::vector<std::string>& script,
              const std::string& arg = "", std::uint64_t seed = 1, bool quiet = true) {
     sim::SimOptions options;
     options.dataDir = dataDir;
@@ -26,14 +26,14 @@ Run simulate(const std::string& dataDir, const std::vector<std::string>& script,
     options.quiet = quiet;
     std::ostringstream out, err;
     sim::Simulator simulator(options, out);
-    Run run;
+    SimRun run;
     run.status = simulator.run(script, err);
     run.out = out.str();
     run.err = err.str();
     return run;
 }
 
-nlohmann::json lastState(const Run& run) {
+nlohmann::json lastState(const SimRun& run) {
     const std::string text = run.out;
     const std::size_t start = text.rfind("\n{", text.size() - 2);
     return nlohmann::json::parse(text.substr(start == std::string::npos ? 0 : start + 1));
@@ -43,7 +43,7 @@ nlohmann::json lastState(const Run& run) {
 
 TEST(Simulator, AMonthAfterStartUp) {
     DataFolder data;
-    const Run run = simulate(data.path().string(), {"day 28", "state"});
+    const SimRun run = simulate(data.path().string(), {"day 28", "state"});
     ASSERT_EQ(run.status, 0) << run.err;
     const auto state = lastState(run);
     EXPECT_EQ(state["calendar"]["currentmonth"], 1);
@@ -56,14 +56,14 @@ TEST(Simulator, AMonthAfterStartUp) {
 TEST(Simulator, SameSeedSameGame) {
     DataFolder data;
     const std::vector<std::string> script = {"day 60", "state"};
-    const Run a = simulate(data.path().string(), script, "", 5);
-    const Run b = simulate(data.path().string(), script, "", 5);
+    const SimRun a = simulate(data.path().string(), script, "", 5);
+    const SimRun b = simulate(data.path().string(), script, "", 5);
     EXPECT_EQ(a.out, b.out);
 }
 
 TEST(Simulator, EchoesTheLogAndTheQuestions) {
     DataFolder data;
-    const Run run = simulate(data.path().string(), {"answer cancel", "quit", "day"}, "", 1, false);
+    const SimRun run = simulate(data.path().string(), {"answer cancel", "quit", "day"}, "", 1, false);
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_NE(run.out.find(" -- Another day has arrived --\n"), std::string::npos);
     EXPECT_NE(run.out.find("ask: Save your theater before quitting? -> cancel\n"), std::string::npos);
@@ -71,7 +71,7 @@ TEST(Simulator, EchoesTheLogAndTheQuestions) {
 
 TEST(Simulator, QuittingEndsTheRunWithStatusZero) {
     DataFolder data;
-    const Run run = simulate(data.path().string(), {"answer no", "quit", "day 5", "state"});
+    const SimRun run = simulate(data.path().string(), {"answer no", "quit", "day 5", "state"});
     EXPECT_EQ(run.status, 0);
     EXPECT_NE(run.out.find("process ended: "), std::string::npos);
     EXPECT_EQ(run.out.find("{"), std::string::npos); // nothing after the end ran
@@ -79,7 +79,7 @@ TEST(Simulator, QuittingEndsTheRunWithStatusZero) {
 
 TEST(Simulator, ABadScriptLineIsStatusTwoAndNamesTheLine) {
     DataFolder data;
-    Run run = simulate(data.path().string(), {"day", "# fine", "dance 3"});
+    SimRun run = simulate(data.path().string(), {"day", "# fine", "dance 3"});
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.err.find("script line 3"), std::string::npos) << run.err;
     run = simulate(data.path().string(), {"day x"});
@@ -91,7 +91,7 @@ TEST(Simulator, ABadScriptLineIsStatusTwoAndNamesTheLine) {
 TEST(Simulator, AFatalErrorIsStatusSeventy) {
     DataFolder data;
     data.setMath({{"gamespeed1", "99999"}});
-    const Run run = simulate(data.path().string(), {"day"});
+    const SimRun run = simulate(data.path().string(), {"day"});
     EXPECT_EQ(run.status, 70);
     EXPECT_EQ(run.err.rfind("fatal: ", 0), 0u) << run.err;
     EXPECT_NE(run.err.find("gamespeed1"), std::string::npos);
@@ -102,7 +102,7 @@ TEST(Simulator, AMathFileArgumentReplacesMathTxtAlsoOnReload) {
     std::string math = readFile(data.file("math.txt"));
     const std::string mth = data.write("custom.MTH", math + "\nfundsmin=-12345\ngamespeed1=7\n");
     data.setMath({{"gamespeed1", "5"}});
-    Run run = simulate(data.path().string(), {"reloadmath", "state"}, "\"" + mth + "\"");
+    SimRun run = simulate(data.path().string(), {"reloadmath", "state"}, "\"" + mth + "\"");
     ASSERT_EQ(run.status, 0) << run.err;
     auto state = lastState(run);
     EXPECT_EQ(state["math"]["gamespeed"][1], 7);
@@ -112,7 +112,7 @@ TEST(Simulator, AMathFileArgumentReplacesMathTxtAlsoOnReload) {
 TEST(Simulator, AnswersAtTheTopServeStartUpQuestions) {
     DataFolder data;
     data.setMath({{"mathver", "1.0"}});
-    Run run = simulate(data.path().string(), {"answer yes", "state"});
+    SimRun run = simulate(data.path().string(), {"answer yes", "state"});
     EXPECT_EQ(run.status, 0) << run.err;
     run = simulate(data.path().string(), {"answer no", "state"});
     EXPECT_EQ(run.status, 0);

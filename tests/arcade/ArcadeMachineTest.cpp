@@ -1,0 +1,399 @@
+#include "ArcadeFixture.h"
+
+#include "core/GameError.h"
+#include "core/LineReader.h"
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+using Machine = ArcadeFixture;
+
+TEST_F(Machine, InitRollsPopularityClassicStyleInOrder) {
+    arcade a(g());
+    g().rng.force({0.5, 0.25, 0.99});
+    a.init(7, "Zap");
+    EXPECT_EQ(a.Num, 7);
+    EXPECT_EQ(a.OriginalNum, 7);
+    EXPECT_EQ(a.Name, "Zap");
+    EXPECT_EQ(a.Age, 0);
+    EXPECT_EQ(a.Pop, 51);                   // floor(100 * 0.5 + 1)
+    EXPECT_EQ(a.Classic, 12);               // floor(30 * 0.25 + 5)
+    EXPECT_EQ(a.CabinetImageFileNumber, 6); // floor(6 * 0.99 + 1)
+    EXPECT_EQ(a.PricePerPlay, 2);
+    EXPECT_EQ(a.cost, 51 * 40);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+}
+
+TEST_F(Machine, InitSpanRunsFromMinToMinPlusMax) {
+    arcade a(g());
+    g().math.arcadepopmin = 20;
+    g().rng.force({0.999, 0.0, 0.0});
+    a.init(1, "Top");
+    EXPECT_EQ(a.Pop, 119); // the upper end is min plus max, on purpose
+    EXPECT_EQ(a.Classic, 5);
+    EXPECT_EQ(a.CabinetImageFileNumber, 1);
+}
+
+TEST_F(Machine, InitPriceOverflowIsFatal) {
+    arcade a(g());
+    g().math.arcadepricemod = 1000;
+    g().rng.force({0.5, 0.5, 0.5}); // Pop 51 * 1000 does not fit 16 bits
+    EXPECT_THROW(a.init(1, "Dear"), GameError);
+}
+
+TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
+    auto t = title(1, "Zap", 60);
+    arcade& a = addMachine(t);
+    a.PricePerPlay = 2; // $0.50: base = floor(60 - 50 * 0.5) = 35
+    // plays so far 5: chance 30. Roll 31 does not play and draws nothing more.
+    g().rng.force(roll(31));
+    EXPECT_FALSE(a.play(5));
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(a.TotalPlays, 0);
+    // Roll 30 plays; then the breakdown roll.
+    g().rng.force({roll(30), 0.9});
+    EXPECT_TRUE(a.play(5));
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(a.TotalPlays, 1);
+    EXPECT_EQ(a.Income, 0.5);
+    EXPECT_EQ(g().finances.incdeparcade, 0.5);
+    EXPECT_EQ(g().finances.funds, 10000.5);
+    EXPECT_FALSE(a.IamBroke);
+}
+
+TEST_F(Machine, FreePlayPlaysAtPopularityAndCanBreak) {
+    arcade& a = addMachine(title(1, "Zap", 40));
+    g().rng.force({roll(40), 0.0}); // roll 40 = Pop; the breakdown roll 1
+    EXPECT_TRUE(a.play(0));
+    EXPECT_EQ(a.TotalPlays, 1);
+    EXPECT_EQ(a.Income, 0);
+    EXPECT_TRUE(a.IamBroke);
+    g().rng.force(roll(41)); // would be roll 41, but a broken machine draws nothing
+    const auto draws = g().rng.draws();
+    EXPECT_FALSE(a.play(0));
+    EXPECT_EQ(g().rng.draws(), draws);
+    EXPECT_EQ(g().rng.forcedLeft(), 1u);
+}
+
+TEST_F(Machine, PriceIndexOutsideTheTableIsFatal) {
+    arcade& a = addMachine(title(1, "Zap", 40));
+    a.setPricePerPlay(5); // no range check when set
+    EXPECT_EQ(a.PricePerPlay, 5);
+    EXPECT_THROW(a.play(0), GameError);
+}
+
+TEST_F(Machine, BreakdownRefundsThePlayAndKeepsTheTotals) {
+    arcade& a = addMachine(title(1, "Zap", 100));
+    a.PricePerPlay = 4;              // $1.00
+    g().rng.force({0.0, 0.0004999}); // play; 2000 * r + 1 floors to 1
+    EXPECT_TRUE(a.play(0));
+    EXPECT_TRUE(a.IamBroke);
+    EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
+    EXPECT_EQ(g().finances.funds, 10000);  // earned and paid back
+    EXPECT_EQ(g().finances.totalspent, 1); // the refund charges no department
+    EXPECT_EQ(g().finances.deparcade, 0);
+    EXPECT_EQ(g().finances.incdeparcade, 1);
+    EXPECT_EQ(a.TotalPlays, 1);
+    EXPECT_EQ(a.Income, 1);
+    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleBroken);
+}
+
+TEST_F(Machine, BreakRollOfTwoDoesNotBreak) {
+    arcade& a = addMachine(title(1, "Zap", 100));
+    g().rng.force({0.0, 0.00051}); // 2000 * r + 1 floors to 2
+    EXPECT_TRUE(a.play(0));
+    EXPECT_FALSE(a.IamBroke);
+}
+
+TEST_F(Machine, RefundThatFundsCannotCoverIsDroppedSilently) {
+    arcade& a = addMachine(title(1, "Zap", 100));
+    a.PricePerPlay = 2;
+    g().finances.setFunds(0.6); // 0.6 + 0.5 - 0.5 would leave under 1
+    const std::size_t before = screen().lines.size();
+    g().rng.force({0.0, 0.0});
+    EXPECT_TRUE(a.play(0));
+    EXPECT_TRUE(a.IamBroke);
+    EXPECT_DOUBLE_EQ(g().finances.funds, 1.1);
+    EXPECT_EQ(g().finances.totalspent, 0);
+    ASSERT_EQ(screen().lines.size(), before + 1); // the breakdown line only
+    EXPECT_EQ(screen().lines.back(), "The arcade machine Zap has broke down.");
+}
+
+TEST_F(Machine, RepairCostGrowsWithAge) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    a.IamBroke = true;
+    a.Age = 7;
+    a.Income = 100;
+    a.repair();
+    EXPECT_FALSE(a.IamBroke);
+    EXPECT_EQ(g().finances.deparcade, 140); // 7 months * 20
+    EXPECT_EQ(g().finances.funds, 10000 - 140);
+    EXPECT_EQ(a.Income, -40);
+    EXPECT_EQ(a.RepairBillsTotal, 140);
+    EXPECT_TRUE(logged("Zap has been repaired for $140"));
+    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
+    // Repairs count twice in the profit figure, as the panel shows it.
+    a.OriginalPrice = 1000;
+    EXPECT_EQ(a.totalProfit(), -40 - 1000 - 140);
+}
+
+TEST_F(Machine, RepairAgeOverflowIsFatal) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    a.Age = 2000; // 2000 * 20 does not fit 16 bits
+    EXPECT_THROW(a.repair(), GameError);
+}
+
+TEST_F(Machine, NewMachineRepairsForNothingButSpendStillTests) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    a.IamBroke = true;
+    g().finances.setFunds(0.5);
+    a.repair();
+    EXPECT_TRUE(a.IamBroke);
+    EXPECT_TRUE(logged("Couldn't afford the $0 to fix arcade 'Zap'"));
+    EXPECT_EQ(a.RepairBillsTotal, 0);
+}
+
+TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
+    am().setAutoRepair(true);
+    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "1");
+    arcade& a = addMachine(title(1, "Zap", 100));
+    a.Age = 3;
+    g().rng.force({0.0, 0.0});
+    EXPECT_TRUE(a.play(0));
+    EXPECT_FALSE(a.IamBroke);
+    EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
+    EXPECT_TRUE(logged("Zap has been repaired for $60"));
+    EXPECT_EQ(a.RepairBillsTotal, 60);
+    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
+}
+
+TEST_F(Machine, WithoutAutoRepairTheMachineStaysBroken) {
+    am().setAutoRepair(false);
+    arcade& a = addMachine(title(1, "Zap", 100));
+    a.Age = 3;
+    g().rng.force({0.0, 0.0});
+    EXPECT_TRUE(a.play(0));
+    EXPECT_TRUE(a.IamBroke);
+    EXPECT_EQ(a.RepairBillsTotal, 0);
+}
+
+TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
+    arcade& first = addMachine(title(1, "One", 100));
+    arcade& second = addMachine(title(2, "Two", 100));
+    am().showGameDetails(1);
+    g().rng.force({0.0, 0.9}); // machine 2 plays: the panel stays on machine 1
+    EXPECT_TRUE(second.play(0));
+    EXPECT_EQ(am().detailsNum, 1);
+    g().rng.force({0.0, 0.0}); // machine 2 breaks: the panel jumps to it
+    EXPECT_TRUE(second.play(0));
+    EXPECT_EQ(am().detailsNum, 2);
+    EXPECT_TRUE(am().detailsView().broken);
+    EXPECT_EQ(am().detailsView().condition, "Broken");
+    (void)first;
+}
+
+TEST_F(Machine, MonthDropsPopularityTowardsClassic) {
+    arcade& a = addMachine(title(1, "Zap", 50, 10));
+    a.cost = 9999;      // inflation is discarded by the month
+    g().rng.force(0.5); // drop floor(4 * 0.5 + 1) = 3
+    a.nextMonth();
+    EXPECT_EQ(a.Age, 1);
+    EXPECT_EQ(a.Pop, 47);
+    EXPECT_EQ(a.cost, 47 * 40);
+
+    a.Pop = 11;
+    g().rng.force(0.99); // drop 4: below the floor, back to 10
+    a.nextMonth();
+    EXPECT_EQ(a.Pop, 10);
+
+    const auto draws = g().rng.draws();
+    a.nextMonth(); // at the floor: no roll at all
+    EXPECT_EQ(g().rng.draws(), draws);
+    EXPECT_EQ(a.Pop, 10);
+    EXPECT_EQ(a.Age, 3);
+}
+
+TEST_F(Machine, MonthRaisesAMachineBelowItsClassicFloor) {
+    arcade& a = addMachine(title(1, "Zap", 5, 20));
+    const auto draws = g().rng.draws();
+    a.nextMonth();
+    EXPECT_EQ(a.Pop, 20);
+    EXPECT_EQ(g().rng.draws(), draws);
+    EXPECT_EQ(a.cost, 800);
+}
+
+TEST_F(Machine, BrokenPriceIsReducedButCostIsWhole) {
+    auto t = title(1, "Zap", 50);
+    EXPECT_EQ(t->getPrice(), 2000);
+    t->IamBroke = true;
+    EXPECT_EQ(t->getCost(), 2000);
+    EXPECT_EQ(t->getPrice(), 500);
+    t->inflate();
+    EXPECT_DOUBLE_EQ(t->getCost(), 2060);
+}
+
+TEST_F(Machine, CabinetFileNamePadding) {
+    EXPECT_EQ(arcade::cabinetFileName(1, false), "001L.gif");
+    EXPECT_EQ(arcade::cabinetFileName(6, true), "006R.gif");
+    EXPECT_EQ(arcade::cabinetFileName(12, false), "012L.gif");
+    EXPECT_EQ(arcade::cabinetFileName(123, true), "123R.gif");
+    EXPECT_EQ(arcade::cabinetFileName(1234, false), "1234L.gif");
+}
+
+TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
+    auto t = title(1, "Zap", 50);
+    t->CabinetImageFileNumber = 3;
+    t->myCabLeft = arcadeRoom::defaultDividerX; // on the line: still the left picture
+    arcade& a = addMachine(t);
+    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003L.gif"));
+    // One twip over the line flips it.
+    am().moveCabinet(1, 101, 50, 100, 50);
+    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::defaultDividerX + 1);
+    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003R.gif"));
+    EXPECT_EQ(a.cabinetPicturePath, am().room.cabinet(1).picture);
+    // The saved place is not written by a move.
+    EXPECT_EQ(a.myCabLeft, arcadeRoom::defaultDividerX);
+}
+
+TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    const arcadeCabinet& cab = am().room.cabinet(1);
+    const arcadeTitle& t = am().room.title(1);
+    EXPECT_EQ(cab.left, arcadeRoom::templateLeft);
+    EXPECT_EQ(cab.top, arcadeRoom::templateTop);
+    EXPECT_TRUE(cab.visible);
+    EXPECT_TRUE(t.visible);
+    EXPECT_EQ(t.caption, "Zap");
+    EXPECT_EQ(t.top, cab.top - 360);
+    // width 3 * 90 = 270; left = left + 960 / 2 - Int(135)
+    EXPECT_EQ(t.left, arcadeRoom::templateLeft + 480 - 135);
+    // An odd half width is floored: 5 characters, 450 wide, half 225.
+    a.setName("Zappo");
+    a.positionTitle(1);
+    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 480 - 225);
+    am().room.title(1).width = 301; // half 150.5 floors to 150
+    a.positionTitle(1);
+    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 480 - 150);
+}
+
+TEST_F(Machine, RenameIgnoresAnEmptyNameAndDoesNotRecentre) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    const float left = am().room.title(1).left;
+    am().renameGame(1, "");
+    EXPECT_EQ(a.Name, "Zap");
+    EXPECT_EQ(am().room.title(1).caption, "Zap");
+    am().renameGame(1, "Longer Name");
+    EXPECT_EQ(a.Name, "Longer Name");
+    EXPECT_EQ(am().room.title(1).caption, "Longer Name");
+    EXPECT_EQ(am().room.title(1).left, left);
+}
+
+TEST_F(Machine, StyleOutsideTheRangeIsIgnored) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    am().setCabinetNum(1, 0);
+    am().setCabinetNum(1, 7);
+    EXPECT_EQ(a.CabinetImageFileNumber, 1);
+    am().setCabinetNum(1, 6);
+    EXPECT_EQ(a.CabinetImageFileNumber, 6);
+    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006L.gif"));
+}
+
+TEST_F(Machine, CabinetTakesItsPictureSizeFromTheGif) {
+    // A GIF header of 80 x 100 pixels.
+    std::string gif = "GIF89a";
+    gif += std::string{'\x50', '\x00', '\x64', '\x00'};
+    gif += std::string(20, '\0');
+    dir.write("images/arcades/002L.gif", gif);
+    auto t = title(1, "Zap", 50);
+    t->CabinetImageFileNumber = 2;
+    addMachine(t);
+    EXPECT_EQ(am().room.cabinet(1).width, 1200);
+    EXPECT_EQ(am().room.cabinet(1).height, 1500);
+    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 600 - 135);
+}
+
+TEST_F(Machine, SaveBlockRoundTrip) {
+    auto t = title(4, "Pin Ball = Fun", 33, 12);
+    t->Age = 5;
+    t->IamBroke = true;
+    t->OriginalPrice = 1320.25;
+    t->RepairBillsTotal = 80;
+    t->PricePerPlay = 3;
+    t->TotalPlays = 1234;
+    t->Income = 925.5;
+    t->cost = 1359.6;
+    arcade& a = addMachine(t);
+    am().moveCabinet(1, 1000.5, 700, 0, 0);
+
+    std::ostringstream out;
+    LineWriter w(out);
+    a.saveSelf(w, "my");
+    const std::string text = out.str();
+    EXPECT_NE(text.find("<arcade_my>\r\nNum=1\r\nOriginalNum=4\r\nName=Pin Ball = Fun\r\n"),
+              std::string::npos);
+    EXPECT_NE(text.find("IamBroke=1\r\n"), std::string::npos);
+    EXPECT_NE(text.find("MyCabTop=2500\r\nmyCabLeft=1600.5\r\ncost=1359.6\r\n</arcade_my>"),
+              std::string::npos);
+
+    std::istringstream in(text);
+    LineReader r(in, "test");
+    std::string first;
+    r.readLine(first);
+    arcade b(g());
+    b.loadSelf(r);
+    EXPECT_TRUE(r.atEnd());
+    EXPECT_EQ(b.Num, 1);
+    EXPECT_EQ(b.OriginalNum, 4);
+    EXPECT_EQ(b.Name, "Pin Ball = Fun");
+    EXPECT_EQ(b.Pop, 33);
+    EXPECT_EQ(b.Classic, 12);
+    EXPECT_EQ(b.Age, 5);
+    EXPECT_TRUE(b.IamBroke);
+    EXPECT_EQ(b.OriginalPrice, 1320.25);
+    EXPECT_EQ(b.RepairBillsTotal, 80);
+    EXPECT_EQ(b.PricePerPlay, 3);
+    EXPECT_EQ(b.TotalPlays, 1234);
+    EXPECT_EQ(b.Income, 925.5);
+    EXPECT_EQ(b.MyCabTop, 2500);
+    EXPECT_EQ(b.myCabLeft, 1600.5f);
+    EXPECT_EQ(b.cost, 1359.6);
+}
+
+TEST_F(Machine, BuyBlockHasNoPlace) {
+    auto t = title(4, "Zap", 33);
+    std::ostringstream out;
+    LineWriter w(out);
+    t->saveSelf(w, "buy");
+    EXPECT_EQ(out.str().find("MyCabTop"), std::string::npos);
+    EXPECT_EQ(out.str().find("myCabLeft"), std::string::npos);
+    EXPECT_EQ(out.str().rfind("</arcade_buy>\r\n"), out.str().size() - 15);
+}
+
+TEST_F(Machine, LoadSelfReadsLeadingNumbersAndSkipsOddLines) {
+    std::istringstream in("NUM=2.5\r\n=7\r\nno equals\r\nIAMBROKE=1.5\r\nPop= 41abc\r\n"
+                          "Name=  spaced  \r\nunknown=3\r\nAge=3.5\r\n</arcade_buy>\r\nPop=99\r\n");
+    LineReader r(in, "test");
+    arcade b(g());
+    b.loadSelf(r);
+    EXPECT_EQ(b.Num, 2); // ties to even
+    EXPECT_EQ(b.Age, 4);
+    EXPECT_FALSE(b.IamBroke); // only exactly 1 is broken
+    EXPECT_EQ(b.Pop, 41);
+    EXPECT_EQ(b.Name, "  spaced  ");
+    std::string rest;
+    ASSERT_TRUE(r.readLine(rest));
+    EXPECT_EQ(rest, "Pop=99"); // the closing tag was consumed, nothing more
+}
+
+TEST_F(Machine, LoadSelfOverflowIsFatal) {
+    std::istringstream in("Pop=40000\r\n");
+    LineReader r(in, "test");
+    arcade b(g());
+    EXPECT_THROW(b.loadSelf(r), GameError);
+}
+
+} // namespace

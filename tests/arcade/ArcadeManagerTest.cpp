@@ -1,0 +1,430 @@
+#include "ArcadeFixture.h"
+
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "core/Toolbox.h"
+
+#include <filesystem>
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+using Room = ArcadeFixture;
+
+// Forces every visitor of a free-play, never-failing room to play each machine once:
+// per play a roll of 1 and a breakdown roll that does not break.
+void forceSurePlays(Game& game, int plays) {
+    for (int i = 0; i < plays; ++i)
+        game.rng.force({0.0, 0.9});
+}
+
+int visitorsFor(Room& f, int percentarcade, int crowd) {
+    f.g().math.percentarcade = percentarcade;
+    f.g().math.arcadeplaychanceplayedmod = 0;
+    arcade& a = f.am().myGameAt(1);
+    a.TotalPlays = 0;
+    const auto before = f.g().rng.draws();
+    forceSurePlays(f.g(), 1000);
+    f.am().doArcadeBusiness(crowd);
+    const auto used = f.g().rng.draws() - before;
+    // drop what was not used
+    while (f.g().rng.forcedLeft() > 0)
+        f.g().rng.next();
+    EXPECT_EQ(used, static_cast<std::uint64_t>(2 * a.TotalPlays));
+    return static_cast<int>(a.TotalPlays);
+}
+
+TEST_F(Room, VisitorsFallAsTheCrowdGrows) {
+    addMachine(title(1, "Zap", 100));
+    EXPECT_EQ(visitorsFor(*this, 12, 100), 12);
+    EXPECT_EQ(visitorsFor(*this, 12, 200), 6);
+    EXPECT_EQ(visitorsFor(*this, 12, 10), 120);
+    EXPECT_EQ(visitorsFor(*this, 12, 1300), 1); // 0.92 rounds to 1
+    EXPECT_EQ(visitorsFor(*this, 12, 2500), 0); // 0.48 rounds to 0: nobody comes
+}
+
+TEST_F(Room, VisitorsRoundHalfToEven) {
+    addMachine(title(1, "Zap", 100));
+    EXPECT_EQ(visitorsFor(*this, 5, 200), 2); // 2.5
+    EXPECT_EQ(visitorsFor(*this, 7, 200), 4); // 3.5
+    EXPECT_EQ(visitorsFor(*this, 1, 200), 0); // 0.5
+}
+
+TEST_F(Room, EmptyCrowdDividesByZeroOnlyWithMachines) {
+    EXPECT_NO_THROW(am().doArcadeBusiness(0));
+    addMachine(title(1, "Zap", 100));
+    EXPECT_THROW(am().doArcadeBusiness(0), GameError);
+}
+
+TEST_F(Room, PlaysOfTheWholeCrowdLowerEveryLaterChance) {
+    arcade& one = addMachine(title(1, "One", 10));
+    arcade& two = addMachine(title(2, "Two", 10));
+    g().math.percentarcade = 2; // a crowd of 100: two visitors
+    g().rng.force({
+        roll(10), 0.9, // visitor 1, machine 1: chance 10, plays
+        roll(9), 0.9,  // visitor 1, machine 2: chance 9, plays
+        roll(9),       // visitor 2, machine 1: chance 8, no play
+        roll(8), 0.9,  // visitor 2, machine 2: chance 8, plays
+    });
+    am().doArcadeBusiness(100);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(one.TotalPlays, 1);
+    EXPECT_EQ(two.TotalPlays, 2);
+}
+
+TEST_F(Room, BrokenMachineIsSkippedWithoutShiftingChances) {
+    arcade& one = addMachine(title(1, "One", 10));
+    arcade& two = addMachine(title(2, "Two", 10));
+    one.IamBroke = true;
+    g().math.percentarcade = 1;
+    g().rng.force({roll(10), 0.9}); // machine 2 still sees chance 10
+    am().doArcadeBusiness(100);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(two.TotalPlays, 1);
+}
+
+TEST_F(Room, AveragePopularityIsFloored) {
+    EXPECT_EQ(am().getAveragePop(), 0);
+    EXPECT_EQ(am().getMachineCount(), 0);
+    addMachine(title(1, "One", 10));
+    addMachine(title(2, "Two", 11));
+    addMachine(title(3, "Three", 11));
+    EXPECT_EQ(am().getMachineCount(), 3);
+    EXPECT_EQ(am().getAveragePop(), 10); // 32 / 3
+}
+
+TEST_F(Room, TrimDropsTheWeakestFirstOfEquals) {
+    const int pops[] = {50, 20, 70, 20, 90, 15, 60, 40, 80};
+    for (int i = 0; i < 9; ++i) {
+        am().buyGames.push_back(title(i + 1, "T" + std::to_string(i + 1), pops[i]));
+        am().buyGames.back()->setNum(i + 1);
+    }
+    am().trimBuyList(); // 9 + 3 > 10: two must go, 15 then the first 20
+    ASSERT_EQ(am().buyGames.size(), 7u);
+    const int expected[] = {1, 3, 4, 5, 7, 8, 9};
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(am().buyGameAt(i + 1).getOriginalNum(), expected[i]);
+        EXPECT_EQ(am().buyGameAt(i + 1).getNum(), i + 1);
+    }
+}
+
+TEST_F(Room, TrimThatCannotChooseIsRefused) {
+    for (int i = 0; i < 9; ++i)
+        am().buyGames.push_back(title(i + 1, "T", i == 4 ? 100 : 100 + i));
+    EXPECT_THROW(am().trimBuyList(), GameError);
+}
+
+TEST_F(Room, TrimRefusesWhenTheMonthAloneOverfillsTheList) {
+    g().math.arcadenewgamespermonth = 11;
+    am().buyGames.push_back(title(1, "T", 5));
+    // The one title goes, then an empty list still cannot make room.
+    EXPECT_THROW(am().trimBuyList(), GameError);
+    EXPECT_TRUE(am().buyGames.empty());
+}
+
+TEST_F(Room, ReleaseDrawsOnlyTitlesNotOnOfferOrInTheRoom) {
+    am().loadGamesList();
+    ASSERT_EQ(am().allGames.size(), 5u);
+    g().math.arcadenewgamespermonth = 2;
+    am().buyGames.push_back(am().allGames[1]); // Bravo, line 2
+    am().buyGames.back()->setNum(1);
+    am().myGames.push_back(am().allGames[2]); // Charlie, line 3
+    g().rng.force({0.2, 0.5, 0.0, 0.99});     // 2 and 3 are taken; then 1 and 5
+    am().releaseGames();
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    ASSERT_EQ(am().buyGames.size(), 3u);
+    EXPECT_EQ(am().buyGameAt(2).getName(), "Alpha");
+    EXPECT_EQ(am().buyGameAt(3).getName(), "Echo");
+    EXPECT_EQ(am().buyGameAt(3).getNum(), 3);
+    EXPECT_EQ(am().buyGames[2], am().allGames[4]); // the very object of the list
+}
+
+TEST_F(Room, ReleaseStopsAfterAThousandDraws) {
+    am().loadGamesList();
+    for (int i = 0; i < 5; ++i)
+        am().buyGames.push_back(am().allGames[static_cast<std::size_t>(i)]);
+    g().math.arcademaxgamesonbuylist = 100;
+    const auto before = g().rng.draws();
+    am().releaseGames();
+    EXPECT_EQ(g().rng.draws() - before, 1000u);
+    EXPECT_EQ(am().buyGames.size(), 5u);
+}
+
+TEST_F(Room, EmptyGamesListMakesTheDrawFatal) {
+    dir.write("games.lst", "");
+    am().loadGamesList();
+    EXPECT_TRUE(am().allGames.empty());
+    EXPECT_THROW(am().releaseGames(), GameError);
+}
+
+TEST_F(Room, MissingGamesListIsFatal) {
+    std::filesystem::remove(dir.file("games.lst"));
+    EXPECT_THROW(am().loadGamesList(), GameError);
+}
+
+TEST_F(Room, InitArcadesReadsTheSettingAndReleases) {
+    tg->settings.set("arcades", "autoRepair", "1");
+    g().rng.reseed(5);
+    am().initArcades();
+    EXPECT_TRUE(am().getAutoRepair());
+    EXPECT_EQ(am().allGames.size(), 5u);
+    EXPECT_EQ(am().buyGames.size(), 3u);
+    EXPECT_EQ(am().priceList,
+              (std::vector<std::string>{"Free Play", "$0.25", "$0.50", "$0.75", "$1"}));
+    const auto rows = am().buyGridRows();
+    ASSERT_EQ(rows.size(), 4u);
+    EXPECT_EQ(rows[0][0], "Game Title");
+    EXPECT_EQ(rows[1][0], am().buyGameAt(1).getName());
+    EXPECT_EQ(rows[1][2], formatMoney(am().buyGameAt(1).getCost()));
+
+    tg->settings.set("arcades", "autoRepair", "2"); // only a 1 is on
+    am().initArcades();
+    EXPECT_FALSE(am().getAutoRepair());
+    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "0");
+}
+
+TEST_F(Room, BuyingMovesTheTitleIntoTheRoom) {
+    auto t = title(2, "Bravo", 50);
+    am().buyGames.push_back(title(1, "Alpha", 30));
+    am().buyGames.push_back(t);
+    t->setNum(2);
+    am().buyGame(2);
+    ASSERT_EQ(am().getMachineCount(), 1);
+    EXPECT_EQ(am().myGames[0], t);
+    EXPECT_EQ(t->getNum(), 1);
+    EXPECT_EQ(t->OriginalPrice, 2000);
+    EXPECT_EQ(g().finances.deparcade, 2000);
+    EXPECT_EQ(g().finances.funds, 8000);
+    EXPECT_TRUE(logged("Purchased 'Bravo' for $2,000"));
+    ASSERT_EQ(am().buyGames.size(), 1u);
+    EXPECT_EQ(am().buyGameAt(1).getName(), "Alpha");
+    EXPECT_TRUE(am().room.exists(1));
+    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::templateLeft);
+}
+
+TEST_F(Room, FullRoomRefusesBeforeMoney) {
+    g().math.arcademax = 1;
+    addMachine(title(1, "One", 10));
+    am().buyGames.push_back(title(2, "Two", 10));
+    am().buyGame(2); // a bad row: the full room answers first
+    EXPECT_TRUE(logged("You cannot fit any more machines into your arcade room!"));
+    EXPECT_EQ(g().finances.totalspent, 0);
+    EXPECT_EQ(am().buyGames.size(), 1u);
+}
+
+TEST_F(Room, BuyingWithoutMoneyIsRefused) {
+    g().finances.setFunds(2000); // 2000 - 2000 leaves less than 1
+    am().buyGames.push_back(title(2, "Bravo", 50));
+    am().buyGame(1);
+    EXPECT_TRUE(logged("Couldn't afford to buy 'Bravo'"));
+    EXPECT_EQ(am().getMachineCount(), 0);
+    EXPECT_EQ(am().buyGames.size(), 1u);
+}
+
+TEST_F(Room, SellingClosesTheRoomUp) {
+    arcade& one = addMachine(title(1, "One", 10));
+    auto twoPtr = title(2, "Two", 20);
+    arcade& two = addMachine(twoPtr);
+    arcade& three = addMachine(title(3, "Three", 30));
+    am().moveCabinet(1, 100, 0, 0, 0);
+    am().moveCabinet(2, 200, 100, 0, 0);
+    am().moveCabinet(3, 5000, 300, 0, 0); // over the divider: the R picture
+    three.IamBroke = true;
+    const arcadeCabinet cab3 = am().room.cabinet(3);
+    const arcadeTitle title3 = am().room.title(3);
+    am().showGameDetails(2);
+
+    am().sellGame(2);
+    EXPECT_EQ(g().finances.funds, 10000 + 800);
+    EXPECT_EQ(g().finances.incdeparcade, 0); // "arcades" is no income department
+    EXPECT_FALSE(am().detailsVisible);
+    ASSERT_EQ(am().getMachineCount(), 2);
+    EXPECT_EQ(&am().myGameAt(1), &one);
+    EXPECT_EQ(&am().myGameAt(2), &three);
+    EXPECT_EQ(three.getNum(), 2);
+    EXPECT_FALSE(am().room.exists(3));
+    EXPECT_EQ(am().room.cabinet(2).left, cab3.left);
+    EXPECT_EQ(am().room.cabinet(2).top, cab3.top);
+    EXPECT_EQ(am().room.cabinet(2).picture, cab3.picture);
+    EXPECT_EQ(am().room.title(2).caption, "Three");
+    EXPECT_EQ(am().room.title(2).left, title3.left);
+    EXPECT_EQ(am().room.title(2).top, title3.top);
+    EXPECT_EQ(am().room.title(2).color, arcadeRoom::titleBroken);
+    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::templateLeft + 100);
+    // The sold object keeps all it has; its saved place is left as it was.
+    EXPECT_EQ(two.MyCabTop, 0);
+    EXPECT_EQ(twoPtr.use_count(), 1);
+}
+
+TEST_F(Room, SellingTheLastMachineDestroysOnlyItsCabinet) {
+    addMachine(title(1, "One", 10));
+    addMachine(title(2, "Two", 20));
+    am().sellGame(2);
+    EXPECT_TRUE(am().room.exists(1));
+    EXPECT_FALSE(am().room.exists(2));
+    EXPECT_EQ(am().room.title(1).caption, "One");
+    EXPECT_THROW(am().sellGame(2), GameError);
+}
+
+TEST_F(Room, SoldTitleDrawnAgainComesBackAsItWas) {
+    am().loadGamesList();
+    g().math.arcadenewgamespermonth = 1;
+    g().rng.force(0.0); // Alpha
+    am().releaseGames();
+    am().buyGame(1);
+    arcade& alpha = am().myGameAt(1);
+    alpha.Age = 4;
+    alpha.IamBroke = true;
+    alpha.TotalPlays = 17;
+    am().renameGame(1, "Alpha Prime");
+    am().setGamePrice(1, 3);
+    am().sellGame(1);
+    g().rng.force(0.0);
+    am().releaseGames();
+    ASSERT_EQ(am().buyGames.size(), 1u);
+    const arcade& again = am().buyGameAt(1);
+    EXPECT_EQ(&again, am().allGames[0].get());
+    EXPECT_EQ(again.getName(), "Alpha Prime");
+    EXPECT_EQ(again.Age, 4);
+    EXPECT_EQ(again.TotalPlays, 17);
+    EXPECT_EQ(again.PricePerPlay, 3);
+    EXPECT_TRUE(again.IamBroke);
+    EXPECT_EQ(am().buyGridRows()[1][2], formatMoney(again.getCost())); // the whole cost
+    const double funds = g().finances.funds;
+    am().buyGame(1);
+    EXPECT_EQ(g().finances.funds, funds - again.getCost() * 25 / 100); // charged broken
+    EXPECT_TRUE(am().myGameAt(1).IamBroke);
+}
+
+TEST_F(Room, MonthReleasesThenAgesTheRoom) {
+    am().loadGamesList();
+    g().math.arcadenewgamespermonth = 1;
+    addMachine(title(9, "Mine", 50, 10));
+    am().buyGames.push_back(am().allGames[0]);
+    am().buyGames.back()->setNum(1);
+    const int onOfferAge = am().buyGameAt(1).Age;
+    g().rng.force({0.99, 0.5}); // the release draws Echo, then the room's drop of 3
+    am().arcadesNextMonth();
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(am().buyGameAt(2).getName(), "Echo");
+    EXPECT_EQ(am().myGameAt(1).Pop, 47);
+    EXPECT_EQ(am().myGameAt(1).Age, 1);
+    EXPECT_EQ(am().buyGameAt(1).Age, onOfferAge);
+}
+
+TEST_F(Room, YearInflatesOnlyTheMarket) {
+    arcade& mine = addMachine(title(1, "Mine", 50));
+    am().buyGames.push_back(title(2, "Offer", 50));
+    am().arcadesNextYear();
+    EXPECT_DOUBLE_EQ(am().buyGameAt(1).getCost(), 2060);
+    EXPECT_EQ(mine.getCost(), 2000);
+}
+
+// Save, load into a fresh room, save again: the same text and the same room.
+TEST_F(Room, SectionRoundTripKeepsCabinetPlaces) {
+    am().buyGames.push_back(title(4, "On Offer", 44));
+    am().buyGames.back()->setNum(1);
+    arcade& one = addMachine(title(1, "One", 10));
+    addMachine(title(2, "Two", 20));
+    am().moveCabinet(1, 6000, 500, 10, 20);
+    am().moveCabinet(2, 300.5, 100.25, 0, 0);
+    one.IamBroke = true;
+    one.setTitleColor();
+
+    std::ostringstream out;
+    LineWriter w(out);
+    am().saveArcades(w);
+    const std::string saved = out.str();
+    EXPECT_EQ(saved.rfind("<arcades>\r\n", 0), 0u);
+    EXPECT_EQ(saved.substr(saved.size() - 12), "</arcades>\r\n");
+
+    TestGame other(dir.path().string());
+    std::istringstream in(saved);
+    LineReader r(in, "saved");
+    std::string tag;
+    r.readLine(tag);
+    other->arcades.loadArcades(r);
+    EXPECT_TRUE(r.atEnd());
+    arcadeManager& b = other->arcades;
+    ASSERT_EQ(b.getMachineCount(), 2);
+    ASSERT_EQ(b.buyGames.size(), 1u);
+    EXPECT_EQ(b.buyGameAt(1).getName(), "On Offer");
+    EXPECT_EQ(b.room.cabinet(1).left, am().room.cabinet(1).left);
+    EXPECT_EQ(b.room.cabinet(1).top, am().room.cabinet(1).top);
+    EXPECT_EQ(b.room.cabinet(1).picture, am().room.cabinet(1).picture); // the R picture
+    EXPECT_EQ(b.room.cabinet(2).left, 900.5f);
+    EXPECT_EQ(b.room.cabinet(2).top, 1900.25f);
+    EXPECT_EQ(b.room.title(1).left, am().room.title(1).left);
+    EXPECT_EQ(b.room.title(1).color, arcadeRoom::titleBroken);
+
+    std::ostringstream again;
+    LineWriter w2(again);
+    b.saveArcades(w2);
+    EXPECT_EQ(again.str(), saved);
+}
+
+TEST_F(Room, LoadAppliesEachSavedCoordinateOnItsOwn) {
+    addMachine(title(1, "Old", 10)); // replaced by the load
+    std::istringstream in("<arcade_my>\r\nNum=1\r\nName=A\r\nMyCabTop=0\r\nmyCabLeft=2000\r\n"
+                          "</arcade_my>\r\n<ARCADE_MY>\r\nNum=2\r\nName=B\r\nMyCabTop=900\r\n"
+                          "myCabLeft=-5\r\n</arcade_my>\r\n<arcade_buy> \r\nName=skipped\r\n"
+                          "</arcades>\r\n<arcade_buy>\r\n");
+    LineReader r(in, "saved");
+    am().loadArcades(r);
+    ASSERT_EQ(am().getMachineCount(), 2);
+    EXPECT_TRUE(am().buyGames.empty()); // a tag with a blank is no tag
+    EXPECT_EQ(am().room.title(1).caption, "A");
+    EXPECT_EQ(am().room.cabinet(1).left, 2000);
+    EXPECT_EQ(am().room.cabinet(1).top, arcadeRoom::templateTop);
+    EXPECT_EQ(am().room.cabinet(2).left, arcadeRoom::templateLeft);
+    EXPECT_EQ(am().room.cabinet(2).top, 900);
+    std::string rest;
+    ASSERT_TRUE(r.readLine(rest));
+    EXPECT_EQ(rest, "<arcade_buy>"); // reading ended at </arcades>
+}
+
+TEST_F(Room, LoadWithAClashingNumberFails) {
+    std::istringstream in("<arcade_my>\r\nNum=1\r\n</arcade_my>\r\n<arcade_my>\r\nNum=1\r\n"
+                          "</arcade_my>\r\n</arcades>\r\n");
+    LineReader r(in, "saved");
+    EXPECT_THROW(am().loadArcades(r), GameError);
+}
+
+TEST_F(Room, LoadClosesADetailsPanelBeyondTheRoom) {
+    addMachine(title(1, "One", 10));
+    addMachine(title(2, "Two", 10));
+    am().showGameDetails(2);
+    std::istringstream in("<arcade_my>\r\nNum=1\r\nName=A\r\n</arcade_my>\r\n</arcades>\r\n");
+    LineReader r(in, "saved");
+    am().loadArcades(r);
+    EXPECT_FALSE(am().detailsVisible);
+}
+
+TEST_F(Room, DetailsViewTexts) {
+    arcade& a = addMachine(title(1, "Zap", 50));
+    a.Age = 12;
+    a.OriginalPrice = 2000;
+    a.RepairBillsTotal = 120;
+    a.TotalPlays = 1500;
+    a.Income = 380.5;
+    a.PricePerPlay = 2;
+    am().showGameDetails(1);
+    const arcadeDetails d = am().detailsView();
+    EXPECT_EQ(d.name, "Zap");
+    EXPECT_EQ(d.pop, "50");
+    EXPECT_EQ(d.age, "12 months");
+    EXPECT_EQ(d.condition, "Working");
+    EXPECT_EQ(d.paid, "$2,000");
+    EXPECT_EQ(d.repairs, "$120");
+    EXPECT_EQ(d.plays, "1500");
+    EXPECT_EQ(d.income, "$380.50");
+    EXPECT_EQ(d.profit, "-$1,739.50");
+    EXPECT_EQ(d.value, "$2,000");
+    EXPECT_EQ(d.priceIndex, 2);
+}
+
+} // namespace

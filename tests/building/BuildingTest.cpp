@@ -1,0 +1,318 @@
+#include "building/BuildingFixture.h"
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+TEST_F(BuildingFixture, InitBuildingTakesTheKeys) {
+    EXPECT_EQ(b().condition, 90);
+    EXPECT_EQ(b().getCondition(), 90);
+    EXPECT_EQ(b().getSeating(), 120);
+    EXPECT_EQ(b().getRent(), 7500);
+    EXPECT_EQ(b().remodelcost, 120 * 1500);
+    EXPECT_TRUE(b().isInOrder());
+    EXPECT_EQ(b().repairCost, 0);            // only a broken house has a repair cost
+    EXPECT_EQ(b().renovateCost, 10 * 800.0); // renovation costs the wear, broken or not
+    EXPECT_GE(screen.refreshes(View::Building), 1);
+}
+
+TEST_F(BuildingFixture, UnpaidRentWarnsGracePlusOneTimesThenLoses) {
+    game->math.buildingrentgrace = Int16{2};
+    game->math.buildingrent = 1000;
+    b().rent = 1000;
+    money().setFunds(500); // never enough
+    for (int month = 1; month <= 3; ++month) {
+        b().payRent();
+        EXPECT_EQ(b().monthsWithoutPayingRent, month);
+        EXPECT_EQ(b().rent, 1000.0 * (month + 1)); // the debt gathers
+        EXPECT_EQ(screen.count(rentWarning(2)), month);
+        EXPECT_EQ(game->loseShown, 0) << "lost too early, month " << month;
+    }
+    b().payRent();
+    EXPECT_EQ(game->loseShown, 1);
+    EXPECT_EQ(screen.loseShown, 1);
+    EXPECT_EQ(screen.count(rentWarning(2)), 3); // the last warning stands last
+    EXPECT_EQ(screen.lines.back(), rentWarning(2));
+    EXPECT_EQ(b().rent, 4000);
+    EXPECT_EQ(b().monthsWithoutPayingRent, 3);
+    EXPECT_EQ(money().funds, 500);
+}
+
+TEST_F(BuildingFixture, APaymentClearsTheGatheredRent) {
+    game->math.buildingrent = 1000;
+    b().rent = 1000;
+    money().setFunds(1500);
+    b().payRent(); // paid: 500 remain
+    EXPECT_EQ(money().funds, 500);
+    EXPECT_EQ(b().totalRentPaid, 1000);
+    b().payRent(); // refused
+    b().payRent(); // refused
+    EXPECT_EQ(b().rent, 3000);
+    EXPECT_EQ(b().monthsWithoutPayingRent, 2);
+    money().setFunds(10000);
+    b().payRent();
+    EXPECT_EQ(money().funds, 7000);
+    EXPECT_EQ(b().totalRentPaid, 4000);
+    EXPECT_EQ(b().monthsWithoutPayingRent, 0);
+    EXPECT_EQ(b().rent, 1000);
+    EXPECT_EQ(money().totalspent, 4000); // rent charges no department
+    EXPECT_EQ(money().deploan + money().depmovie + money().deplabor, 0);
+}
+
+TEST_F(BuildingFixture, RentOfExactlyOneIsStillRent) {
+    money().setFunds(100);
+    b().rent = 1.0;
+    b().payRent();
+    EXPECT_EQ(money().funds, 99);
+    b().rent = 0.99; // bought
+    b().payRent();
+    EXPECT_EQ(money().funds, 99);
+    EXPECT_EQ(b().rent, 0.99);
+}
+
+TEST_F(BuildingFixture, RentRisesEveryMonthUntilItIsPaid) {
+    game->math.inflation = 10;
+    game->math.buildingbreakdownchance = 0;
+    money().setFunds(100000);
+    b().buildingNextMonth();
+    EXPECT_DOUBLE_EQ(b().totalRentPaid, 8250); // 7500 raised once
+    EXPECT_EQ(b().rent, 7500);                 // and back to the key
+    b().rent = 0;                              // bought
+    b().buildingNextMonth();
+    EXPECT_EQ(b().rent, 0);
+    EXPECT_DOUBLE_EQ(b().totalRentPaid, 8250);
+}
+
+TEST_F(BuildingFixture, WearRoundsHalfToEven) {
+    game->math.buildingbreakdownchance = 0;
+    money().setFunds(1e9);
+    game->math.buildingconditiondrop = 1.5;
+    b().buildingNextMonth();
+    EXPECT_EQ(b().condition, 88); // 88.5 rounds to the even 88
+    b().buildingNextMonth();
+    EXPECT_EQ(b().condition, 86); // 86.5 to 86
+    game->math.buildingconditiondrop = 0.5;
+    b().buildingNextMonth();
+    EXPECT_EQ(b().condition, 86); // 85.5 rounds back up to 86: no wear at all
+    game->math.buildingconditiondrop = 0.4;
+    b().buildingNextMonth();
+    EXPECT_EQ(b().condition, 86);
+}
+
+TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
+    game->math.buildingbreakdownchance = 0.5;
+    b().condition = 80; // threshold 10
+    game->setSpeed(2);
+    game->rng.force(0.10); // roll 11: holds
+    b().rollBuildingBreakdown();
+    EXPECT_TRUE(b().isInOrder());
+    EXPECT_TRUE(screen.modes.empty());
+    game->rng.force(0.09); // roll 10: at the threshold, breaks
+    b().rollBuildingBreakdown();
+    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(screen.count(" !!!  YOUR THEATER HAS BROKE DOWN !!! "), 1);
+    EXPECT_EQ(screen.modes, std::vector<int>{7});
+    EXPECT_EQ(game->speed, 0);
+    EXPECT_EQ(game->lastSpeed, 2);
+    EXPECT_EQ(b().repairCost, 20 * 60);
+    EXPECT_TRUE(b().buildingTexts().outOfOrder);
+    // A broken house is rolled for too, and breaks down again.
+    game->rng.force(0.0);
+    b().rollBuildingBreakdown();
+    EXPECT_EQ(screen.count(" !!!  YOUR THEATER HAS BROKE DOWN !!! "), 2);
+    EXPECT_EQ(game->rng.forcedLeft(), 0u);
+}
+
+TEST_F(BuildingFixture, APerfectHouseCannotBreakAndAWreckAlwaysDoes) {
+    b().condition = 100;
+    game->rng.force(0.0); // roll 1 against threshold 0
+    b().rollBuildingBreakdown();
+    EXPECT_TRUE(b().isInOrder());
+    game->math.buildingbreakdownchance = 1;
+    b().condition = -5;     // allowed: threshold 105
+    game->rng.force(0.999); // roll 100
+    b().rollBuildingBreakdown();
+    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(b().repairCost, 105 * 60);
+    EXPECT_EQ(b().renovateCost, 105 * 800.0);
+}
+
+TEST_F(BuildingFixture, RentIsStillPaidInTheMonthOfTheBreakdown) {
+    money().setFunds(100000);
+    game->rng.force(0.0);
+    b().buildingNextMonth();
+    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(b().condition, 89);
+    EXPECT_EQ(b().totalRentPaid, 7500);
+    EXPECT_EQ(money().funds, 92500);
+}
+
+TEST_F(BuildingFixture, RepairCostOverflowIsFatal) {
+    game->math.buildingrepaircost = Int16{400};
+    b().condition = 10; // 90 * 400 passes 32767
+    b().IamBroken = true;
+    EXPECT_THROW(b().computeCosts(), GameError);
+}
+
+TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndOnlyWithTheMoney) {
+    money().setFunds(100000);
+    game->setSpeed(3);
+    b().repairBuilding();
+    EXPECT_EQ(screen.count("Your theater is not out of order, no repairs are needed."), 1);
+    EXPECT_EQ(money().funds, 100000);
+    EXPECT_EQ(game->speed, 3);
+
+    b().condition = 70;
+    b().breakDown(); // repair cost 30 * 60
+    money().setFunds(1800);
+    b().repairBuilding();
+    EXPECT_EQ(screen.count("You cannot afford to repair your theater, consider taking out a loan."),
+              1);
+    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(game->speed, 0);
+
+    money().setFunds(1801);
+    b().repairBuilding();
+    EXPECT_TRUE(b().isInOrder());
+    EXPECT_EQ(money().funds, 1);
+    EXPECT_EQ(b().condition, 70); // a repair does not mend the wear
+    EXPECT_EQ(b().repairCost, 0);
+    EXPECT_EQ(game->speed, 3); // back to the remembered speed
+    EXPECT_FALSE(b().buildingTexts().outOfOrder);
+}
+
+TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
+    money().setFunds(100000);
+    b().condition = 100;
+    b().showBuilding();
+    b().renovateBuilding();
+    EXPECT_EQ(screen.count("Your theater is already in good condition."), 1);
+    EXPECT_EQ(money().funds, 100000);
+
+    b().condition = 80;
+    b().showBuilding(); // 20 * 800
+    money().setFunds(16000);
+    b().renovateBuilding();
+    EXPECT_EQ(screen.count(
+                  "You cannot afford to renovate, consider taking out a loan or just repairing."),
+              1);
+    EXPECT_EQ(b().condition, 80);
+
+    money().setFunds(20000);
+    b().breakDown();
+    b().renovateBuilding();
+    EXPECT_EQ(b().condition, 100);
+    EXPECT_TRUE(b().isInOrder());
+    EXPECT_EQ(money().funds, 4000);
+}
+
+TEST_F(BuildingFixture, RenovatingASoundHouseStillResumesTheClock) {
+    money().setFunds(100000);
+    game->setSpeed(3);
+    game->setSpeed(-1);
+    b().condition = 99;
+    b().showBuilding();
+    b().renovateBuilding();
+    EXPECT_EQ(b().condition, 100);
+    EXPECT_EQ(game->speed, 3);
+    EXPECT_EQ(money().funds, 100000 - 800);
+}
+
+TEST_F(BuildingFixture, RemodelUpToTheMaximumEachDearerThanTheLast) {
+    money().setFunds(10000000);
+    b().seating = 220;
+    b().computeRemodelCost();
+    b().condition = 95;
+    b().remodel();
+    EXPECT_EQ(b().seating, 270);
+    EXPECT_EQ(money().funds, 10000000 - 220 * 1500);
+    EXPECT_EQ(b().remodelcost, 270 * 1500);
+    EXPECT_EQ(b().condition, 100); // 105 is lowered to 100
+    EXPECT_EQ(screen.lines.back(), "Theater remodelled, you now have a seating capacity of 270 and "
+                                   "your building condition has been increased to 100%");
+    b().remodel(); // reaches the maximum exactly: allowed
+    EXPECT_EQ(b().seating, 320);
+    const double before = money().funds;
+    const auto refreshesBefore = screen.refreshes(View::Building);
+    b().remodel();
+    EXPECT_EQ(screen.lines.back(), "You cannot add on to your building any more, sorry!");
+    EXPECT_EQ(b().seating, 320);
+    EXPECT_EQ(money().funds, before);
+    EXPECT_EQ(screen.refreshes(View::Building), refreshesBefore); // nothing is refreshed
+}
+
+TEST_F(BuildingFixture, RemodelRoundsTheConditionAndCanBeRefused) {
+    game->math.buildingremodelcondition = 2.5;
+    b().condition = 80;
+    money().setFunds(180000); // the cost is 180000: less than 1 would remain
+    b().remodel();
+    EXPECT_EQ(screen.lines.back(),
+              "You can't afford to remodel!  Perhaps you could take out a loan?");
+    EXPECT_EQ(b().seating, 120);
+    money().setFunds(180001);
+    b().remodel();
+    EXPECT_EQ(b().condition, 82); // 82.5 to the even 82
+    EXPECT_EQ(b().seating, 170);
+}
+
+TEST_F(BuildingFixture, PurchaseEndsTheRentAndItsDebt) {
+    game->calendar.currentyear = 2;
+    EXPECT_EQ(b().getPurchasePrice(), 300000);
+    money().setFunds(300000);
+    b().purchaseBuilding();
+    EXPECT_EQ(screen.lines.back(), "You cannot yet afford to buy your theater, either continue "
+                                   "paying rent or take out a loan.");
+    EXPECT_EQ(b().rent, 7500);
+    b().rent = 22500; // two months unpaid
+    b().monthsWithoutPayingRent = 2;
+    money().setFunds(300001);
+    const auto refreshesBefore = screen.refreshes(View::Building);
+    b().purchaseBuilding();
+    EXPECT_EQ(screen.lines.back(), "You have purchased your theater!  No more rent for you!");
+    EXPECT_EQ(money().funds, 1);
+    EXPECT_EQ(b().rent, 0);
+    EXPECT_EQ(b().monthsWithoutPayingRent, 2);                    // left as it stood
+    EXPECT_EQ(screen.refreshes(View::Building), refreshesBefore); // the screen shows the old rent
+    b().purchaseBuilding();
+    EXPECT_EQ(screen.lines.back(),
+              "You have already purchased your building, you are no longer paying rent!");
+    EXPECT_EQ(money().funds, 1);
+}
+
+TEST_F(BuildingFixture, TheDayRefreshesOnlyAVisibleScreen) {
+    const auto before = screen.refreshes(View::Building);
+    b().buildingNextDay();
+    EXPECT_EQ(screen.refreshes(View::Building), before);
+    screen.visible = true;
+    b().buildingNextDay();
+    EXPECT_EQ(screen.refreshes(View::Building), before + 1);
+}
+
+TEST_F(BuildingFixture, ScreenTexts) {
+    game->calendar.currentyear = 3;
+    b().condition = 85;
+    b().totalRentPaid = 15000;
+    b().breakDown();
+    const BuildingTexts t = b().buildingTexts();
+    EXPECT_EQ(t.values[0], "3 Years");
+    EXPECT_EQ(t.values[1], "85 %");
+    EXPECT_EQ(t.values[2], "$900");
+    EXPECT_EQ(t.values[3], "$12k");
+    EXPECT_EQ(t.values[4], "$7.5k");
+    EXPECT_EQ(t.values[5], "$15k");
+    EXPECT_EQ(t.values[6], "$325k");
+    EXPECT_EQ(t.values[7], "120");
+    EXPECT_EQ(t.values[8], "$180k");
+    EXPECT_TRUE(t.outOfOrder);
+    EXPECT_EQ(buildingManager::buildingDescriptions()[6], "Building purchase price:");
+    b().condition = -3; // digits only: the sign is lost
+    EXPECT_EQ(b().buildingTexts().values[1], "3 %");
+}

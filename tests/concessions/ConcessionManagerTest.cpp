@@ -1,0 +1,209 @@
+#include "StandFixture.h"
+
+#include "core/GameError.h"
+#include "core/LineReader.h"
+
+#include <algorithm>
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+std::string savedStand(const ConcessionManager& stand) {
+    std::ostringstream out;
+    LineWriter w(out);
+    stand.saveConcessions(w);
+    return out.str();
+}
+
+int refreshes(const RecordingScreen& screen, View v) {
+    return static_cast<int>(std::count(screen.refreshed.begin(), screen.refreshed.end(), v));
+}
+
+} // namespace
+
+TEST(ConcessionVisitors, FewerVisitorsAsTheCrowdGrows) {
+    // Kept on purpose: percentconcessions * 100 / crowd.
+    EXPECT_EQ(ConcessionManager::visitorsOf(100, 8), 8);
+    EXPECT_EQ(ConcessionManager::visitorsOf(200, 8), 4);
+    EXPECT_EQ(ConcessionManager::visitorsOf(50, 8), 16);
+    EXPECT_EQ(ConcessionManager::visitorsOf(1, 8), 800);
+}
+
+TEST(ConcessionVisitors, RoundedHalfToEven) {
+    EXPECT_EQ(ConcessionManager::visitorsOf(320, 8), 2);  // 2.5
+    EXPECT_EQ(ConcessionManager::visitorsOf(200, 7), 4);  // 3.5
+    EXPECT_EQ(ConcessionManager::visitorsOf(1600, 8), 0); // 0.5
+    EXPECT_EQ(ConcessionManager::visitorsOf(1599, 8), 1); // just above 0.5
+    EXPECT_EQ(ConcessionManager::visitorsOf(300, 8), 3);  // 2.67
+}
+
+TEST(ConcessionVisitors, ACrowdOfNoneIsADivisionByZero) {
+    EXPECT_THROW(ConcessionManager::visitorsOf(0, 8), GameError);
+}
+
+TEST_F(StandFixture, EachVisitorConsidersEveryItemOnce) {
+    for (int i = 0; i < 5; ++i)
+        item(i).stock = 100;
+    const auto before = game->rng.draws();
+    allWant(4);
+    stand().doConcessionBusiness(200); // 800 / 200: four visitors
+    EXPECT_EQ(game->rng.draws() - before, 20u);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(item(i).todayssold, 4);
+}
+
+TEST_F(StandFixture, RoundingToNoVisitorShowsNothing) {
+    game.screen.refreshed.clear();
+    const auto before = game->rng.draws();
+    stand().doConcessionBusiness(1600); // 0.5 rounds to 0
+    EXPECT_EQ(game->rng.draws(), before);
+    EXPECT_TRUE(game.screen.refreshed.empty());
+
+    stand().doConcessionBusiness(1599); // one visitor
+    EXPECT_EQ(game->rng.draws() - before, 5u);
+    EXPECT_EQ(refreshes(game.screen, View::ConcessionTotals) > 0, true);
+}
+
+TEST_F(StandFixture, ACrowdOfNoneIsFatal) {
+    EXPECT_THROW(stand().doConcessionBusiness(0), GameError);
+}
+
+TEST_F(StandFixture, AllOutOfStockGivesOneLineForTheLowestItem) {
+    for (int i = 0; i < 5; ++i)
+        item(i).stock = 0;
+    allWant(2);
+    stand().doConcessionBusiness(400); // two visitors
+    EXPECT_EQ(game.screen.lines, (std::vector<std::string>{
+                                     "I was unable to sell any Popcorn today, out of stock!!!"}));
+
+    // The next day the slot is free again; now the first one short is Soda.
+    game->resetLogSlots();
+    item(0).stock = 10;
+    allWant();
+    stand().doConcessionBusiness(800);
+    EXPECT_EQ(game.screen.lines.back(), "I was unable to sell any Soda today, out of stock!!!");
+    EXPECT_EQ(game.screen.lines.size(), 2u);
+}
+
+TEST_F(StandFixture, QualityScoreDividesByFour) {
+    for (int i = 0; i < 5; ++i)
+        item(i).setQuality(2);
+    EXPECT_EQ(stand().getQualityScore(), 125);
+    for (int i = 0; i < 5; ++i)
+        item(i).setQuality(0);
+    EXPECT_EQ(stand().getQualityScore(), 0);
+    item(3).setQuality(1);
+    EXPECT_EQ(stand().getQualityScore(), 12); // floor of 12.5
+    item(0).setQuality(2);
+    item(1).setQuality(2);
+    EXPECT_EQ(stand().getQualityScore(), 62); // 250 / 4
+    item(0).quality = 3;                      // from a saved game: counts nothing
+    EXPECT_EQ(stand().getQualityScore(), 37);
+}
+
+TEST_F(StandFixture, MoneyForTwoItemsOnly) {
+    game->finances.setFunds(15); // 7 + 7 leaves 1; the third bill is refused
+    stand().concessionsNextMonth();
+    EXPECT_EQ(item(0).stock, 20);
+    EXPECT_EQ(item(1).stock, 20);
+    EXPECT_EQ(item(2).stock, 10);
+    EXPECT_EQ(item(3).stock, 10);
+    EXPECT_EQ(item(4).stock, 10);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
+    // One message: the slot is shared by all five items.
+    EXPECT_EQ(game.screen.lines,
+              (std::vector<std::string>{"Unable to buy Candy this month, not enough money!!"}));
+}
+
+TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsCleared) {
+    item(0).sell();
+    item(1).sell();
+    stand().concessionsNextMonth();
+    EXPECT_EQ(stand().totals().incomeLastMonth, "$4.20");
+    EXPECT_EQ(item(0).lastmonthincome, 0);
+    EXPECT_EQ(item(0).lastmonthsales, 1);
+    EXPECT_EQ(item(0).thismonthsales, 0);
+}
+
+TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
+    for (int i = 0; i < 5; ++i)
+        item(i).stock = 100;
+    item(4).setPrice(1);                          // chance 80
+    game->rng.force({0.0, 0.99, 0.0, 0.99, 0.0}); // items 0, 2 and 4 sell
+    stand().doConcessionBusiness(800);
+    ConcessionTotals t = stand().totals();
+    EXPECT_EQ(t.totalMyCost, "$3.50"); // base costs, without the quality surcharge
+    EXPECT_EQ(t.totalSold, "3");
+    EXPECT_EQ(t.totalProfit, "$4.30"); // 2.10 + 2.10 + 0.10
+    EXPECT_EQ(t.totalTotalCost, "$35");
+
+    // A new day clears the rows; the totals row keeps its figures until the next crowd.
+    stand().concessionsNextDay();
+    EXPECT_EQ(item(0).todayssold, 0);
+    EXPECT_EQ(stand().totals().totalSold, "3");
+}
+
+TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
+    game.screen.refreshed.clear();
+    stand().setItemBuyQuant(2, 30);
+    EXPECT_EQ(item(2).buypermonth, 30);
+    EXPECT_EQ(refreshes(game.screen, View::ConcessionTables), 5);
+    EXPECT_EQ(stand().totals().totalTotalCost, "$49");
+    EXPECT_THROW(stand().setItemBuyQuant(5, 1), GameError);
+    EXPECT_THROW(stand().setItemQuality(-1, 1), GameError);
+}
+
+TEST_F(StandFixture, YearlyInflationOnEveryItem) {
+    stand().concessionsNextYear();
+    for (int i = 0; i < 5; ++i)
+        EXPECT_DOUBLE_EQ(item(i).cost, 0.721);
+}
+
+TEST_F(StandFixture, SectionSaveLoadSame) {
+    item(0).setPrice(3.33);
+    item(1).setQuality(2);
+    item(2).setBuyQuant(-5);
+    item(3).sell();
+    item(4).name = "Nachos Grande";
+    stand().concessionsNextYear();
+    const std::string first = savedStand(stand());
+    EXPECT_EQ(first.rfind("<concessions>\r\n<concession num=0>\r\nname=Popcorn\r\n", 0), 0u);
+    EXPECT_EQ(first.substr(first.size() - 31), "</concession>\r\n</concessions>\r\n");
+
+    TempDir otherDir;
+    TestGame other(otherDir.path().string());
+    for (int i = 0; i < 5; ++i) // numbered at set-up, which every game runs
+        other->concessions.item(i).num = i;
+    std::istringstream in(first + "after=1\r\n");
+    LineReader reader(in, "test.zvn");
+    other->concessions.loadConcessions(reader);
+    EXPECT_EQ(savedStand(other->concessions), first);
+    EXPECT_EQ(other->concessions.item(4).name, "Nachos Grande");
+    EXPECT_EQ(other->concessions.item(2).buypermonth, -5);
+    std::string next;
+    ASSERT_TRUE(reader.readLine(next)); // the section ended at its close tag
+    EXPECT_EQ(next, "after=1");
+}
+
+TEST_F(StandFixture, SectionReaderQuirks) {
+    std::istringstream in("junk\r\n"
+                          "<CONCESSION NUM=3>\r\n"
+                          "stock=77\r\n"
+                          "</concession>\r\n"
+                          "<concession num=2.5>\r\n" // ties to even: item 2
+                          "stock=55\r\n"
+                          "</concession>\r\n"
+                          "</concessions>\r\n");
+    LineReader reader(in, "test.zvn");
+    stand().loadConcessions(reader);
+    EXPECT_EQ(item(3).stock, 77);
+    EXPECT_EQ(item(2).stock, 55);
+    EXPECT_EQ(item(3).name, "Hot Dog"); // missing keys keep their value
+
+    std::istringstream bad("<concession num=5>\r\nstock=1\r\n</concession>\r\n</concessions>\r\n");
+    LineReader badReader(bad, "test.zvn");
+    EXPECT_THROW(stand().loadConcessions(badReader), GameError);
+}

@@ -1,0 +1,266 @@
+#include "StandFixture.h"
+
+#include "core/GameError.h"
+#include "core/LineReader.h"
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+using ItemFixture = StandFixture;
+
+std::string saved(const Concession& c) {
+    std::ostringstream out;
+    LineWriter w(out);
+    c.saveSelf(w);
+    return out.str();
+}
+
+} // namespace
+
+TEST_F(ItemFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
+    const Concession& c = item(3);
+    EXPECT_EQ(c.num, 3);
+    EXPECT_EQ(c.name, "Hot Dog");
+    EXPECT_EQ(c.quality, 1);
+    EXPECT_EQ(c.price, 3);
+    EXPECT_EQ(c.cost, 0.7);
+    EXPECT_EQ(c.buypermonth, 10);
+    EXPECT_EQ(c.stock, 10); // the month step ran once at set-up
+    EXPECT_EQ(c.thismonthsales, 0);
+    EXPECT_EQ(c.qualityList, (std::vector<std::string>{"low 3", "mid 3", "high 3"}));
+    // Five orders of 10 units at the base cost: no quality surcharge in the bill.
+    EXPECT_DOUBLE_EQ(game->finances.depconcessions, 35);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 10000 - 35);
+}
+
+TEST_F(ItemFixture, ChanceCountsThePriceInCentsPlusTheQualityBonus) {
+    // 100 - 300 cents * 0.2 + 0 = 40: a roll of 40 buys, 41 does not.
+    game->rng.force({0.395, 0.405});
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).stock, 9);
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).stock, 9);
+
+    item(0).setQuality(2); // +10: 50
+    game->rng.force({0.495, 0.505});
+    item(0).sell_consider();
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).stock, 8);
+
+    item(0).setQuality(0); // -10: 30
+    game->rng.force({0.295, 0.305});
+    item(0).sell_consider();
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).stock, 7);
+    EXPECT_EQ(game->rng.forcedLeft(), 0u);
+}
+
+TEST_F(ItemFixture, ChanceIsNotRounded) {
+    game->math.concessconsiderqual[1] = 0.5;
+    item(1).setPrice(2.25);          // 100 - 45 + 0.5 = 55.5
+    game->rng.force({0.545, 0.555}); // rolls 55 and 56
+    item(1).sell_consider();
+    EXPECT_EQ(item(1).todayssold, 1);
+    item(1).sell_consider();
+    EXPECT_EQ(item(1).todayssold, 1);
+}
+
+TEST_F(ItemFixture, AHighPriceSellsNothingSoNoShortageIsTold) {
+    item(0).stock = 0;
+    item(0).setPrice(10); // chance -100
+    game->rng.force(0.0); // the lowest roll, 1
+    item(0).sell_consider();
+    EXPECT_EQ(game.screen.lines.size(), 0u);
+    EXPECT_EQ(game->finances.incdepconcessions, 0);
+}
+
+TEST_F(ItemFixture, AChanceOf100OrMoreAlwaysSells) {
+    item(2).setQuality(2);
+    item(2).setPrice(0.01);  // 100 - 0.2 + 10
+    game->rng.force(0.9999); // the highest roll, 100
+    item(2).sell_consider();
+    EXPECT_EQ(item(2).todayssold, 1);
+}
+
+TEST_F(ItemFixture, ASaleBooksTheMarginUnderConcessions) {
+    const double funds = game->finances.funds;
+    item(0).sell();
+    // Unit cost: 0.70 + (1 + 1) * 0.10 = 0.90, so the margin is 2.10.
+    EXPECT_EQ(item(0).stock, 9);
+    EXPECT_DOUBLE_EQ(item(0).todaysprofit, 2.1);
+    EXPECT_EQ(item(0).todayssold, 1);
+    EXPECT_DOUBLE_EQ(item(0).lastmonthincome, 2.1);
+    EXPECT_EQ(item(0).thismonthsales, 1);
+    EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, 2.1);
+    EXPECT_DOUBLE_EQ(game->finances.funds, funds + 2.1);
+}
+
+TEST_F(ItemFixture, APriceBelowTheUnitCostEarnsANegativeAmount) {
+    item(0).setPrice(0.5);
+    item(0).sell();
+    EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, -0.4);
+}
+
+TEST_F(ItemFixture, TheLastUnitSellsAndTheNextCustomerIsToldOff) {
+    item(0).stock = 1;
+    game->rng.force({0.0, 0.0});
+    item(0).sell_consider();
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).stock, 0);
+    EXPECT_EQ(item(0).todayssold, 1);
+    EXPECT_EQ(game.screen.lines, (std::vector<std::string>{
+                                     "I was unable to sell any Popcorn today, out of stock!!!"}));
+    EXPECT_TRUE(game->logSlots[5]);
+}
+
+TEST_F(ItemFixture, QualityIsClampedAndPriceMustBeAboveZero) {
+    item(0).setQuality(5);
+    EXPECT_EQ(item(0).getQuality(), 2);
+    item(0).setQuality(-1);
+    EXPECT_EQ(item(0).getQuality(), 0);
+
+    game.screen.refreshed.clear();
+    item(0).setPrice(0);
+    EXPECT_EQ(item(0).price, 3);
+    item(0).setPrice(-2);
+    EXPECT_EQ(item(0).price, 3);
+    // The row is shown again, so the box gets the old price back.
+    EXPECT_EQ(game.screen.refreshed.front(), View::ConcessionListing);
+    EXPECT_EQ(item(0).listing().price, "$3");
+    item(0).setPrice(2.5);
+    EXPECT_EQ(item(0).listing().price, "$2.50");
+}
+
+TEST_F(ItemFixture, InflationRaisesTheCostNotThePrice) {
+    item(0).inflate();
+    EXPECT_DOUBLE_EQ(item(0).cost, 0.7 * 1.03);
+    EXPECT_EQ(item(0).price, 3);
+}
+
+TEST_F(ItemFixture, DayAndMonthCounters) {
+    item(0).sell();
+    item(0).sell();
+    item(0).nextDay();
+    EXPECT_EQ(item(0).todayssold, 0);
+    EXPECT_EQ(item(0).todaysprofit, 0);
+    EXPECT_EQ(item(0).thismonthsales, 2);
+    item(0).nextMonth();
+    EXPECT_EQ(item(0).lastmonthsales, 2);
+    EXPECT_EQ(item(0).thismonthsales, 0);
+    EXPECT_EQ(item(0).lastmonthincome, 0);
+}
+
+TEST_F(ItemFixture, TheMonthsPurchaseIsAllOrNothing) {
+    game->finances.setFunds(7.5); // the bill is 7.00: less than 1 would remain
+    item(0).buyConcessions();
+    EXPECT_EQ(item(0).stock, 10);
+    EXPECT_EQ(game.screen.lines.back(), "Unable to buy Popcorn this month, not enough money!!");
+    EXPECT_TRUE(game->logSlots[6]);
+
+    game->resetLogSlots();
+    game->finances.setFunds(8);
+    item(0).buyConcessions(); // leaves exactly 1: accepted
+    EXPECT_EQ(item(0).stock, 20);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
+}
+
+TEST_F(ItemFixture, AnOrderOfNothingStillNeedsOneDollar) {
+    item(0).setBuyQuant(0);
+    game->finances.setFunds(0.5);
+    item(0).buyConcessions();
+    EXPECT_EQ(game.screen.count("Unable to buy Popcorn this month, not enough money!!"), 1);
+}
+
+TEST_F(ItemFixture, ANegativeOrderIsTakenAndTheStockFalls) {
+    item(0).setBuyQuant(-4);
+    const double funds = game->finances.funds;
+    item(0).buyConcessions();
+    EXPECT_EQ(item(0).stock, 6);
+    EXPECT_DOUBLE_EQ(game->finances.funds, funds + 2.8);
+}
+
+TEST_F(ItemFixture, StockOverflowIsFatal) {
+    item(0).stock = 32760;
+    EXPECT_THROW(item(0).buyConcessions(), GameError);
+}
+
+TEST_F(ItemFixture, TheRowsShowTheUnitCostAndTheBaseCost) {
+    item(0).sell();
+    const ConcessionListing row = item(0).listing();
+    EXPECT_EQ(row.qualityList, (std::vector<std::string>{"low 0", "mid 0", "high 0"}));
+    EXPECT_EQ(row.qualityIndex, 1);
+    EXPECT_EQ(row.price, "$3");
+    EXPECT_EQ(row.yourCost, "$0.90");
+    EXPECT_EQ(row.soldToday, "1");
+    EXPECT_EQ(row.profit, "$2.10");
+    EXPECT_EQ(row.tip, "Popcorn");
+    EXPECT_NE(row.picture.find("images/concessions/item0.png"), std::string::npos);
+
+    const ConcessionStockRow stock = item(0).stockRow();
+    EXPECT_EQ(stock.inStock, "9");
+    EXPECT_EQ(stock.buyPerMonth, "10");
+    EXPECT_EQ(stock.lastMonthSales, "0");
+    EXPECT_EQ(stock.costPerItem, "$0.70");
+    EXPECT_EQ(stock.totalCost, "$7");
+}
+
+TEST_F(ItemFixture, SavedBlock) {
+    item(1).setPrice(2.75);
+    item(1).sell();
+    EXPECT_EQ(saved(item(1)), "<concession num=1>\r\n"
+                              "name=Soda\r\n"
+                              "quality=1\r\n"
+                              "price=2.75\r\n"
+                              "cost=0.7\r\n"
+                              "stock=9\r\n"
+                              "lastmonthsales=0\r\n"
+                              "thismonthsales=1\r\n"
+                              "buypermonth=10\r\n"
+                              "lastmonthincome=1.85\r\n"
+                              "todaysprofit=1.85\r\n"
+                              "todayssold=1\r\n"
+                              "</concession>\r\n");
+}
+
+TEST_F(ItemFixture, LoadedBlockQuirks) {
+    std::istringstream in("NAME=Big Popcorn\r\n"
+                          "Quality=3\r\n"
+                          "=7\r\n"
+                          "no equals sign\r\n"
+                          "stock=12abc\r\n"
+                          "buypermonth=2.5\r\n"
+                          "todayssold=3.5\r\n"
+                          "price=\r\n"
+                          "colour=red\r\n"
+                          "</concession>\r\n"
+                          "stock=99\r\n");
+    LineReader reader(in, "test.zvn");
+    item(0).loadSelf(reader);
+    EXPECT_EQ(item(0).name, "Big Popcorn");
+    EXPECT_EQ(item(0).quality, 3); // not clamped
+    EXPECT_EQ(item(0).stock, 12);
+    EXPECT_EQ(item(0).buypermonth, 2); // ties to even
+    EXPECT_EQ(item(0).todayssold, 4);
+    EXPECT_EQ(item(0).price, 0);        // no number: 0
+    EXPECT_EQ(reader.lineNumber(), 10); // stopped behind its end line
+
+    // Quality 3 finds a bonus no key sets (0) and a unit cost of four steps.
+    item(0).setPrice(3);
+    game->rng.force({0.595, 0.605}); // chance 40: 60 and 61 both fail
+    item(0).sell_consider();
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).todayssold, 4);
+    game->rng.force(0.395);
+    item(0).sell_consider();
+    EXPECT_EQ(item(0).todayssold, 5);
+    EXPECT_DOUBLE_EQ(item(0).todaysprofit, 3 - (0.7 + 4 * 0.1));
+
+    std::istringstream bad("quality=4\r\n</concession>\r\n");
+    LineReader badReader(bad, "test.zvn");
+    item(0).loadSelf(badReader);
+    EXPECT_THROW(item(0).sell_consider(), GameError);
+}

@@ -1,0 +1,164 @@
+// goals.cfg: how the file is read, and what the shipped file offers.
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "persistence/SessionPorts.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+struct GoalFile : ::testing::Test {
+    TempDir dir;
+    std::unique_ptr<PortGame> session;
+
+    goalManager& load(const std::string& text) {
+        dir.write("goals.cfg", text);
+        session = std::make_unique<PortGame>(dir.path().string());
+        (*session)->goals.loadGoals();
+        return (*session)->goals;
+    }
+};
+
+} // namespace
+
+TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
+    goalManager& g = load("# a comment\r\n<goal>\r\nname=First\r\n</goal>\r\nname=Outside\r\n"
+                          "<GOAL>\r\nname=Second\r\n</goal>\r\n<Goal>\r\n</goal>\r\n");
+    EXPECT_EQ(g.getLastGoal(), 3);
+    EXPECT_EQ(g.goalNames(), (std::vector<std::string>{"Free Play", "First", "Second", ""}));
+    const goal& free = g.getGoal(0);
+    EXPECT_EQ(free.getName(), "Free Play");
+    EXPECT_EQ(free.getType(), "");
+    EXPECT_EQ(free.getValue(), 0);
+    EXPECT_EQ(free.getDeadline(), 0);
+    EXPECT_EQ(free.getDesc(), "Play without any goals");
+    EXPECT_EQ(g.getSelected(), 0);
+    EXPECT_THROW(g.getGoal(4), GameError);
+}
+
+TEST_F(GoalFile, KeysAndValuesAreReadAsWritten) {
+    goalManager& g = load("<goal>\n"
+                          "NAME=Big = Money\n"
+                          "Type=FUNDS\n"
+                          "value=  1500.5 dollars\n"
+                          "deadline=2.5\n"
+                          "desc=  Make it rain  \n"
+                          "debt=$20,000\n"
+                          "funds=abc\n"
+                          "cs=45.5 points\n"
+                          "payplan=\n"
+                          "colour=red\n"
+                          "=ignored\n"
+                          "no equals sign\n"
+                          " name=not a key\n"
+                          "</goal>\n");
+    const goal& big = g.getGoal(1);
+    EXPECT_EQ(big.getName(), "Big = Money"); // split at the first "="
+    EXPECT_EQ(big.getType(), "funds");
+    EXPECT_EQ(big.getValue(), 1500.5);
+    EXPECT_EQ(big.getDeadline(), 2); // rounded half to even
+    EXPECT_EQ(big.getDesc(), "  Make it rain  ");
+    EXPECT_EQ(big.getDebt(), "$20,000"); // taken as it stands
+    EXPECT_EQ(big.getFunds(), "abc");
+    EXPECT_EQ(big.getCs(), "45.5");   // the leading number printed back
+    EXPECT_EQ(big.getPayplan(), "0"); // an empty value reads as 0
+    EXPECT_FALSE(big.getAchieved());
+}
+
+TEST_F(GoalFile, AbsentKeysStayEmptyAndBadNumbersReadAsZero) {
+    goalManager& g = load("<goal>\nname=Sloppy\ntype=rating\nvalue=lots\ndeadline=soon\n</goal>\n");
+    const goal& s = g.getGoal(1);
+    EXPECT_EQ(s.getValue(), 0);
+    EXPECT_EQ(s.getDeadline(), 0); // a mistyped deadline fails in the second year
+    EXPECT_EQ(s.getCs(), "");
+    EXPECT_EQ(s.getPayplan(), "");
+    EXPECT_EQ(s.getDebt(), "");
+    EXPECT_EQ(s.getFunds(), "");
+}
+
+TEST_F(GoalFile, AnyLineBeginningWithSlashClosesAGoal) {
+    goalManager& g = load("<goal>\nname=A\n</whatever>\ntype=funds\n<goal>\nname=B\n");
+    EXPECT_EQ(g.getLastGoal(), 2);
+    EXPECT_EQ(g.getGoal(1).getType(), "");  // the type line stood outside the goal
+    EXPECT_EQ(g.getGoal(2).getName(), "B"); // the end of the file closes the last one
+}
+
+TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
+    goalManager& g = load("<goal> \n name=x\n<goal>x\n <goal>\n");
+    EXPECT_EQ(g.getLastGoal(), 0);
+    EXPECT_EQ(g.goalNames(), std::vector<std::string>{"Free Play"});
+}
+
+TEST_F(GoalFile, AMissingFileIsFatal) {
+    PortGame game(dir.path().string());
+    EXPECT_THROW(game->goals.loadGoals(), GameError);
+}
+
+TEST_F(GoalFile, ADeadlineBeyondSixteenBitsIsFatal) {
+    dir.write("goals.cfg", "<goal>\ndeadline=40000\n</goal>\n");
+    PortGame game(dir.path().string());
+    try {
+        game->goals.loadGoals();
+        FAIL() << "no error";
+    } catch (const GameError& e) {
+        EXPECT_NE(std::string(e.what()).find("goals.cfg line 2"), std::string::npos) << e.what();
+    }
+}
+
+TEST_F(GoalFile, TheStartingFigureRule) {
+    EXPECT_TRUE(goal::isGiven("0"));
+    EXPECT_TRUE(goal::isGiven("15000"));
+    EXPECT_TRUE(goal::isGiven(" 0.5"));
+    EXPECT_FALSE(goal::isGiven(""));
+    EXPECT_FALSE(goal::isGiven("0.0"));
+    EXPECT_FALSE(goal::isGiven("00"));
+    EXPECT_FALSE(goal::isGiven(" 0"));
+    EXPECT_FALSE(goal::isGiven("-500"));
+    EXPECT_FALSE(goal::isGiven("$500")); // the leading number of "$500" is 0
+}
+
+TEST_F(GoalFile, TheDetailsBoxText) {
+    goalManager& g = load("<goal>\nname=Mogul\ntype=funds\nvalue=1000000\ndeadline=4\n"
+                          "desc=A million in the bank.\n</goal>\n"
+                          "<goal>\nname=Odd\nvalue=-2.75\ndeadline=-1\n</goal>\n");
+    EXPECT_EQ(g.getGoal(1).popUpText(), "Goal name: Mogul\r\nType: funds\r\nValue: 1000000\r\n"
+                                        "Deadline: 4\r\nAchieved: False\r\nDescription:\r\n"
+                                        "A million in the bank.");
+    // digitsOnly drops the signs.
+    EXPECT_EQ(g.getGoal(2).popUpText(), "Goal name: Odd\r\nType: \r\nValue: 2.75\r\n"
+                                        "Deadline: 1\r\nAchieved: False\r\nDescription:\r\n");
+}
+
+TEST(ShippedGoals, OfferEveryTypeWithStartingFiguresAndReasonableDeadlines) {
+    DataFolder data;
+    PortGame game(data.path().string());
+    game->goals.loadGoals();
+    const goalManager& g = game->goals;
+    ASSERT_GE(g.getLastGoal(), 8);
+    std::set<std::string> types, names;
+    bool funds = false, debt = false, cs = false, payplan = false, loan = false;
+    for (int i = 1; i <= g.getLastGoal(); ++i) {
+        const goal& x = g.getGoal(i);
+        types.insert(x.getType());
+        names.insert(x.getName());
+        EXPECT_FALSE(x.getName().empty()) << i;
+        EXPECT_GE(x.getDesc().size(), 40u) << x.getName();
+        EXPECT_GE(x.getDeadline(), 0) << x.getName(); // deadline 0: one year ...
+        EXPECT_LE(x.getDeadline(), 4) << x.getName(); // ... deadline 4: five years
+        funds |= goal::isGiven(x.getFunds());
+        debt |= goal::isGiven(x.getDebt());
+        cs |= goal::isGiven(x.getCs());
+        payplan |= goal::isGiven(x.getPayplan());
+        loan |= !x.getDebt().empty() && !x.getCs().empty() && !x.getPayplan().empty();
+    }
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(g.getLastGoal())) << "names repeat";
+    EXPECT_EQ(types, (std::set<std::string>{"funds", "rating", "purchase", "debt", "creditscore"}));
+    EXPECT_TRUE(funds && debt && cs && payplan && loan);
+}

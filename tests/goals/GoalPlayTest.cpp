@@ -1,0 +1,373 @@
+// A goal in play: its starting figures, its daily test, its deadline, the won flow and the
+// Goal menu.
+#include "Simulator.h"
+#include "StateJson.h"
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "persistence/SessionPorts.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+const std::string achievedLine = "You have achieved your goal!";
+const std::string failedLine = "You have failed to achieve your goal in time";
+const std::string continueQuestion = "Would you like to continue playing?";
+
+std::string goalBlock(const std::string& lines) {
+    return "<goal>\r\n" + lines + "</goal>\r\n";
+}
+
+struct GoalPlay : ::testing::Test {
+    DataFolder data;
+    std::unique_ptr<PortGame> session;
+
+    void SetUp() override {
+        session = std::make_unique<PortGame>(data.path().string(), 3);
+        game().startup();
+    }
+    Game& game() { return **session; }
+    goalManager& goals() { return game().goals; }
+    PortDialogs& dialogs() { return session->dialogs; }
+    PortScreen& screen() { return session->screen; }
+
+    // Replaces goals.cfg and reads it again: targets can then be set from today's figures.
+    void useGoals(const std::string& blocks) {
+        data.write("goals.cfg", blocks);
+        goals().loadGoals();
+    }
+    // "Play !" with goal 1 picked in the list.
+    void play(int index = 1) { game().startPlay(index); }
+    int count(const std::string& line) const { return session->screen.count(line); }
+    void setYear(int year) { game().calendar.currentyear = year; }
+    // One daily test, answering the won question with `answer` should it come.
+    void test(Answer answer = Answer::Yes) {
+        dialogs().answers = {answer};
+        goals().goalsNextDay();
+        dialogs().answers.clear();
+    }
+};
+
+std::string num(double v) {
+    return numberText(v);
+}
+
+} // namespace
+
+TEST_F(GoalPlay, FreePlayIsNeverTestedAndNeverFails) {
+    play(0);
+    setYear(30);
+    test();
+    EXPECT_EQ(count(failedLine), 0);
+    EXPECT_EQ(count(achievedLine), 0);
+    EXPECT_EQ(goals().getSelected(), 0);
+}
+
+TEST_F(GoalPlay, AFundsGoalIsReachedTheFirstDayFundsStandAtTheTarget) {
+    useGoals(goalBlock("name=Grand\r\ntype=funds\r\nvalue=1000\r\ndeadline=1\r\n"));
+    play();
+    game().finances.setFunds(999.99);
+    test();
+    EXPECT_FALSE(goals().selected().getAchieved());
+    game().finances.setFunds(1000);
+    test(Answer::Yes);
+    EXPECT_TRUE(goals().selected().getAchieved());
+    EXPECT_EQ(count(achievedLine), 1);
+    EXPECT_EQ(screen().goalPictures, 1);
+    EXPECT_EQ(game().goalShown, 1);
+    ASSERT_FALSE(dialogs().asked.empty());
+    EXPECT_EQ(dialogs().asked.back(), continueQuestion);
+    EXPECT_EQ(dialogs().buttons.back(), Buttons::YesNo);
+    // Yes: play on as free play would, with the goal kept as reached and tested no more.
+    EXPECT_EQ(goals().getSelected(), 1);
+    setYear(5);
+    test();
+    EXPECT_EQ(count(achievedLine), 1);
+    EXPECT_EQ(count(failedLine), 0);
+    EXPECT_EQ(game().goalShown, 1);
+}
+
+TEST_F(GoalPlay, TheGoalIsTestedBeforeTheDaysFundsTest) {
+    // Funds below the floor at the end of the day: the goal is still reached first.
+    useGoals(goalBlock("name=Tiny\r\ntype=funds\r\nvalue=1\r\ndeadline=1\r\n"));
+    play();
+    ASSERT_GT(game().math.fundsmin, 2);
+    game().finances.setFunds(game().math.fundsmin - 1);
+    dialogs().answers = {Answer::Yes};
+    game().calendar.nextDay();
+    EXPECT_TRUE(goals().selected().getAchieved());
+    const auto& lines = screen().lines;
+    const auto won = std::find(lines.begin(), lines.end(), achievedLine);
+    const auto warned = std::find(lines.begin(), lines.end(),
+                                  "You're not going to make it, take out a loan now!!!");
+    ASSERT_NE(won, lines.end());
+    ASSERT_NE(warned, lines.end());
+    EXPECT_LT(won - lines.begin(), warned - lines.begin());
+}
+
+TEST_F(GoalPlay, EveryTypeIsMetOnItsOwnSideOfTheTarget) {
+    const double rating = game().rating.getRating();
+    const double rent = game().building.getRent();
+    const double score = game().loans.getCreditScore();
+    game().loans.setupLoan(10000, 0, 12);
+    game().loans.startLoan();
+    const double balance = game().loans.getBalance();
+    ASSERT_GT(balance, 0);
+    const std::vector<std::pair<std::string, std::pair<double, double>>> cases = {
+        // type, {a target that is met, the nearest that is not}
+        {"rating", {rating, rating + 1}},
+        {"purchase", {rent, rent - 0.5}},
+        {"debt", {balance, balance - 0.01}},
+        {"creditscore", {score, score + 0.01}},
+        {"FUNDS", {game().finances.getFunds(), game().finances.getFunds() + 0.01}},
+    };
+    for (const auto& [type, targets] : cases) {
+        useGoals(
+            goalBlock("type=" + type + "\r\nvalue=" + num(targets.second) + "\r\ndeadline=3\r\n") +
+            goalBlock("type=" + type + "\r\nvalue=" + num(targets.first) + "\r\ndeadline=3\r\n"));
+        goals().selectGoal(1);
+        test();
+        EXPECT_FALSE(goals().selected().getAchieved()) << type << " " << targets.second;
+        goals().selectGoal(2);
+        test();
+        EXPECT_TRUE(goals().selected().getAchieved()) << type << " " << targets.first;
+    }
+    EXPECT_EQ(game().goalShown, 5);
+}
+
+TEST_F(GoalPlay, ADebtGoalOfZeroIsReachedAtOnceWithoutDebt) {
+    useGoals(goalBlock("name=Clean\r\ntype=debt\r\nvalue=0\r\ndeadline=0\r\n"));
+    play();
+    ASSERT_EQ(game().loans.getBalance(), 0);
+    dialogs().answers = {Answer::Yes};
+    game().calendar.nextDay();
+    EXPECT_TRUE(goals().selected().getAchieved());
+}
+
+TEST_F(GoalPlay, AnUnknownTypeIsNeverMetAndRunsOutOfTime) {
+    useGoals(goalBlock("type=profit\r\nvalue=-1000000\r\ndeadline=0\r\n"));
+    play();
+    test();
+    EXPECT_FALSE(goals().selected().getAchieved());
+    setYear(1);
+    test();
+    EXPECT_EQ(count(failedLine), 1);
+    EXPECT_EQ(goals().getSelected(), 0);
+}
+
+TEST_F(GoalPlay, ADeadlineFailsTheGoalIntoFreePlay) {
+    useGoals(goalBlock("name=Rich\r\ntype=funds\r\nvalue=1e12\r\ndeadline=1\r\n"));
+    play();
+    setYear(1);
+    test();
+    EXPECT_EQ(count(failedLine), 0); // the deadline year itself is still in time
+    setYear(2);
+    test();
+    EXPECT_EQ(count(failedLine), 1);
+    EXPECT_EQ(goals().getSelected(), 0);
+    EXPECT_EQ(game().loseShown, 0); // failing a goal is no loss
+    test();
+    EXPECT_EQ(count(failedLine), 1); // free play from now on
+    // It can be picked again through the Goal menu, and fails again at the next test.
+    goals().selectGoal(1);
+    test();
+    EXPECT_EQ(count(failedLine), 2);
+}
+
+TEST_F(GoalPlay, TheDeadlineComesBeforeTheTarget) {
+    useGoals(goalBlock("type=funds\r\nvalue=0\r\ndeadline=0\r\n"));
+    play();
+    setYear(1);
+    test();
+    EXPECT_EQ(count(failedLine), 1);
+    EXPECT_EQ(count(achievedLine), 0);
+    EXPECT_FALSE(goals().getGoal(1).getAchieved());
+}
+
+TEST_F(GoalPlay, TheFirstDayOfTheNextYearFailsTheGoal) {
+    useGoals(goalBlock("type=funds\r\nvalue=1e12\r\n")); // no deadline line: deadline 0
+    play();
+    Calendar& cal = game().calendar;
+    cal.currentday = 6;
+    cal.currentweek = 3;
+    cal.currentmonth = 11;
+    game().calendar.nextDay();
+    EXPECT_EQ(cal.currentyear, 1);
+    EXPECT_EQ(count(failedLine), 1);
+}
+
+TEST_F(GoalPlay, SayingNoToPlayingOnAsksTheQuitQuestion) {
+    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
+    play();
+    dialogs().answers = {Answer::No, Answer::Cancel};
+    goals().goalsNextDay();
+    EXPECT_EQ(dialogs().asked.back(), "Save your theater before quitting?");
+    EXPECT_TRUE(goals().selected().getAchieved()); // Cancel there plays on
+
+    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
+    goals().selectGoal(1);
+    dialogs().answers = {Answer::No, Answer::No};
+    EXPECT_THROW(goals().goalsNextDay(), ProcessEnded);
+}
+
+TEST_F(GoalPlay, StartingFundsOnlyWhenReallyGiven) {
+    const double init = game().math.initfunds;
+    const std::vector<std::pair<std::string, double>> cases = {
+        {"funds=0\r\n", 0},
+        {"funds=\r\n", init},
+        {"", init},
+        {"funds=0.0\r\n", init},
+        {"funds=-5\r\n", init},
+        {"funds=15000\r\n", 15000},
+        {"funds=2500.75 or so\r\n", 2500.75},
+    };
+    for (const auto& [line, expected] : cases) {
+        useGoals(goalBlock("name=x\r\n" + line));
+        game().finances.setFunds(init);
+        play();
+        EXPECT_EQ(game().finances.getFunds(), expected) << line;
+    }
+}
+
+TEST_F(GoalPlay, DebtScoreAndPaymentsTogetherStartTheLoan) {
+    const double funds = game().finances.getFunds();
+    useGoals(goalBlock("debt=20000\r\ncs=42\r\npayplan=24\r\n"));
+    play();
+    loanManager& loans = game().loans;
+    EXPECT_EQ(loans.getCreditScore(), 42);
+    EXPECT_EQ(loans.getBalance(), 20000);
+    EXPECT_EQ(loans.loanAmount, 20000);
+    EXPECT_EQ(loans.payPlan, 24);
+    EXPECT_EQ(game().finances.getFunds(), funds + 20000);
+    EXPECT_EQ(count("Congrats, you're now in debt!"), 1);
+}
+
+TEST_F(GoalPlay, AScoreAloneStartsNoLoan) {
+    useGoals(goalBlock("cs=77\r\n") + goalBlock("debt=5000\r\npayplan=12\r\n"));
+    play(1);
+    EXPECT_EQ(game().loans.getCreditScore(), 77);
+    EXPECT_EQ(game().loans.getBalance(), 0);
+    play(2); // no score key: no loan either, though the offer is filled in
+    EXPECT_EQ(game().loans.getBalance(), 0);
+    EXPECT_EQ(game().loans.offerAmount, 5000);
+}
+
+TEST_F(GoalPlay, AnEmptyScoreOrPaymentsKeyStillCountsAsGiven) {
+    useGoals(goalBlock("debt=8000\r\ncs=\r\npayplan=12\r\n"));
+    const double score = game().loans.getCreditScore();
+    play();
+    EXPECT_EQ(game().loans.getCreditScore(), score); // a score of 0 is not applied
+    EXPECT_EQ(game().loans.getBalance(), 8000);
+}
+
+TEST_F(GoalPlay, TheDebtIsCutByTheScoreThatStandsWhenItIsOffered) {
+    // The amount goes to the bank before the goal's score: the opening score's maximum cuts it.
+    const double openingMax = game().loans.getCreditScore() * game().math.loanmlv;
+    ASSERT_GT(openingMax, 0);
+    useGoals(goalBlock("debt=" + num(openingMax * 2) + "\r\ncs=100\r\npayplan=12\r\n"));
+    play();
+    EXPECT_EQ(game().loans.getBalance(), openingMax);
+}
+
+TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
+    useGoals(goalBlock("name=One\r\ndesc=First goal\r\nfunds=11111\r\n") +
+             goalBlock("name=Two\r\ndesc=Second goal\r\nfunds=22222\r\n"));
+    goals().selectGoal(2);
+    EXPECT_EQ(goals().getSelected(), 2);
+    EXPECT_EQ(screen().details.back(), "Second goal");
+    goals().selectGoal(3); // beyond the list: nothing
+    EXPECT_EQ(goals().getSelected(), 2);
+    EXPECT_EQ(screen().details.size(), 1u);
+    EXPECT_THROW(goals().selectGoal(-1), GameError);
+
+    game().finances.setFunds(5);
+    goals().startGoal(-1); // no list selection
+    goals().startGoal(3);
+    EXPECT_EQ(game().finances.getFunds(), 5);
+    goals().startGoal(1); // the list index counts, not the selection
+    EXPECT_EQ(game().finances.getFunds(), 11111);
+    EXPECT_EQ(goals().getSelected(), 2);
+}
+
+TEST_F(GoalPlay, TheGoalMenuShowsTheTitleThenTheDetails) {
+    useGoals(
+        goalBlock("name=Shown\r\ntype=rating\r\nvalue=60\r\ndeadline=2\r\ndesc=Be loved.\r\n"));
+    play();
+    goals().showGoalInfo();
+    EXPECT_EQ(screen().titleShown, 1);
+    EXPECT_EQ(dialogs().asked.back(),
+              "Goal name: Shown\r\nType: rating\r\nValue: 60\r\n"
+              "Deadline: 2\r\nAchieved: False\r\nDescription:\r\nBe loved.");
+    EXPECT_EQ(dialogs().buttons.back(), Buttons::Ok);
+}
+
+namespace {
+
+struct GoalMenuScript : ::testing::Test {
+    DataFolder data;
+    std::ostringstream out;
+    std::unique_ptr<sim::Simulator> sim;
+
+    void start(int goal) {
+        data.write("goals.cfg",
+                   goalBlock("name=Shoestring\r\ntype=funds\r\nvalue=75000\r\ndeadline=2\r\n"
+                             "funds=15000\r\n") +
+                       goalBlock("name=Rent free\r\ntype=purchase\r\nvalue=0\r\ndeadline=4\r\n"));
+        sim::SimOptions options;
+        options.dataDir = data.path().string();
+        options.seed = 11;
+        options.goal = goal;
+        options.quiet = true;
+        sim = std::make_unique<sim::Simulator>(options, out);
+        sim->startup();
+    }
+    void run(const std::string& line) { sim->runLine(line, 1); }
+    nlohmann::json state() { return sim::gameState(sim->game()); }
+};
+
+} // namespace
+
+TEST_F(GoalMenuScript, PlayAgainReappliesTheStartingFunds) {
+    start(1);
+    EXPECT_EQ(state()["funds"], 15000);
+    sim->game().finances.spend(5000, "labor");
+    run("day 2");
+    ASSERT_NE(state()["funds"], 15000);
+    run("goal 1");
+    EXPECT_EQ(state()["funds"], 15000);
+    EXPECT_EQ(sim->dialogs().asked.back().rfind("Goal name: Shoestring\r\n", 0), 0u);
+    const auto goal = state()["goal"];
+    EXPECT_EQ(goal["selected"], 1);
+    EXPECT_EQ(goal["type"], "funds");
+    EXPECT_EQ(goal["value"], 75000);
+    EXPECT_EQ(goal["deadline"], 2);
+    EXPECT_EQ(goal["achieved"], false);
+    EXPECT_EQ(state()["goalShown"], 0);
+}
+
+TEST_F(GoalMenuScript, AnotherGoalCanBePickedWhileTheGameRuns) {
+    start(0);
+    const double funds = state()["funds"];
+    run("goal 2"); // no starting funds: the money stays
+    EXPECT_EQ(state()["funds"], funds);
+    EXPECT_EQ(state()["goal"]["selected"], 2);
+    EXPECT_EQ(state()["goal"]["type"], "purchase");
+    EXPECT_THROW(run("goal 3"), sim::ScriptError);
+    EXPECT_THROW(run("goal -1"), sim::ScriptError);
+}
+
+TEST_F(GoalMenuScript, AReachedGoalIsCountedInTheState) {
+    start(1);
+    sim->dialogs().answers = {Answer::Yes};
+    sim->game().finances.setFunds(90000);
+    run("day");
+    EXPECT_EQ(state()["goal"]["achieved"], true);
+    EXPECT_EQ(state()["goalShown"], 1);
+}

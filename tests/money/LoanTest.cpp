@@ -1,0 +1,198 @@
+#include "money/LoanFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+const std::string missWarning = "You couldn't come up with the money to pay this month's loan "
+                                "payment!!!  This has seriously affected your credit score";
+const std::string missLoss = "You have missed too many loan payments!";
+
+} // namespace
+
+TEST_F(LoanFixture, ALoanTakenPaysOutAsIncomeOfNoDepartment) {
+    money().setFunds(5000);
+    take("10000", "10");
+    EXPECT_EQ(money().funds, 15000);
+    EXPECT_EQ(money().totalincome, 10000);
+    EXPECT_EQ(money().incdepmovie + money().incdeparcade + money().incdepconcessions, 0);
+    EXPECT_EQ(game.screen.lines.back(), "Congrats, you're now in debt!");
+    EXPECT_EQ(loans().interestRate, 2);
+    EXPECT_EQ(loans().balance, 10000);
+    EXPECT_EQ(loans().getBalance(), 10000);
+    EXPECT_EQ(loans().payPlan, 10);
+    EXPECT_EQ(loans().paymentsRemaining, 10);
+    EXPECT_EQ(loans().monthlyPayment, 1200);
+    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(loans().currentLoanTexts(),
+              (std::array<std::string, 5>{"$10,000", "2 %", "10", "$10,000", "$1,200"}));
+}
+
+TEST_F(LoanFixture, ChargedMonthlyRaisingTheScoreUntilTheBalanceIsZero) {
+    money().setFunds(100000);
+    take("10000", "10");
+    for (int month = 1; month <= 9; ++month) {
+        loans().loansNextMonth();
+        EXPECT_EQ(money().funds, 110000 - 1200.0 * month);
+        EXPECT_EQ(money().deploan, 1200.0 * month);
+        EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50 + 0.5 * month); // 10000 * 0.00005
+        EXPECT_EQ(loans().balance, 10000 - 1000.0 * month);           // principal only
+        EXPECT_EQ(loans().paymentsRemaining, 10 - month);
+    }
+    loans().loansNextMonth();
+    EXPECT_EQ(money().deploan, 12000);
+    EXPECT_EQ(loans().getCreditScore(), 55);
+    EXPECT_EQ(loans().loanAmount, 0);
+    EXPECT_EQ(loans().balance, 0);
+    EXPECT_EQ(loans().monthlyPayment, 0);
+    EXPECT_EQ(loans().paymentsRemaining, 0);
+    EXPECT_EQ(loans().interestRate, 2); // the rate and the plan stay behind
+    EXPECT_EQ(loans().payPlan, 10);
+    loans().loansNextMonth();
+    EXPECT_EQ(money().deploan, 12000);
+}
+
+TEST_F(LoanFixture, OneLoanAtATime) {
+    money().setFunds(100);
+    take("10000", "10");
+    take("5000", "10");
+    EXPECT_EQ(game.screen.lines.back(),
+              "You cannot start a new loan until the existing debt is paid off!");
+    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(money().funds, 10100);
+}
+
+TEST_F(LoanFixture, AThousandInThreeTakesAFourthFullPayment) {
+    game->math.loanpaymentsmin = Int16{1};
+    money().setFunds(100000);
+    take("1000", "3");
+    const double monthly = (1000 + 3 * 20) / 3.0;
+    EXPECT_DOUBLE_EQ(loans().monthlyPayment, monthly);
+    for (int month = 1; month <= 3; ++month)
+        loans().loansNextMonth();
+    // Three thirds of 1000 as doubles leave a hair of principal.
+    EXPECT_EQ(loans().loanAmount, 1000);
+    EXPECT_GT(loans().balance, 0);
+    EXPECT_LT(loans().balance, 1e-9);
+    EXPECT_EQ(loans().paymentsRemaining, 0);
+    loans().loansNextMonth();
+    EXPECT_EQ(loans().loanAmount, 0);
+    EXPECT_DOUBLE_EQ(money().deploan, 4 * monthly);
+    EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50 + 4 * 0.05);
+}
+
+TEST_F(LoanFixture, TooManyMissesInARowLoseTheGame) {
+    take("10000", "10");
+    money().setFunds(100);
+    game->setSpeed(2);
+    loans().loansNextMonth();
+    EXPECT_EQ(game->speed, 0); // the clock stops, remembering its speed
+    EXPECT_EQ(game->lastSpeed, 2);
+    EXPECT_EQ(loans().missedPayments, 1);
+    EXPECT_EQ(loans().getCreditScore(), 48); // 10000 * 0.0002
+    EXPECT_EQ(game.screen.lines.back(), missWarning);
+    loans().loansNextMonth();
+    EXPECT_EQ(game.screen.count(missWarning), 2);
+    EXPECT_EQ(game->loseShown, 0);
+    loans().loansNextMonth(); // loangrace 2: the third miss in a row loses
+    EXPECT_EQ(game.screen.lines.back(), missLoss);
+    EXPECT_EQ(game->loseShown, 1);
+    EXPECT_EQ(game.screen.loseShown, 1);
+    EXPECT_EQ(loans().getCreditScore(), 44);
+    EXPECT_EQ(loans().balance, 10000); // a miss moves nothing of the loan
+    EXPECT_EQ(loans().paymentsRemaining, 10);
+    EXPECT_EQ(money().deploan, 0);
+}
+
+TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgain) {
+    take("10000", "10");
+    for (int round = 0; round < 3; ++round) {
+        money().setFunds(100);
+        loans().loansNextMonth();
+        loans().loansNextMonth();
+        EXPECT_EQ(loans().missedPayments, 2);
+        money().setFunds(1201);
+        loans().loansNextMonth();
+        EXPECT_EQ(loans().missedPayments, 0);
+    }
+    EXPECT_EQ(game->loseShown, 0);
+    EXPECT_EQ(loans().paymentsRemaining, 7);
+}
+
+TEST_F(LoanFixture, NoGraceLosesOnTheFirstMiss) {
+    game->math.loangrace = Int16{0};
+    take("10000", "10");
+    money().setFunds(100);
+    loans().loansNextMonth();
+    EXPECT_EQ(game.screen.count(missWarning), 0);
+    EXPECT_EQ(game.screen.lines.back(), missLoss);
+    EXPECT_EQ(game->loseShown, 1);
+}
+
+TEST_F(LoanFixture, PayingOffRaisesTheScoreByTheMonthlyPaymentOnly) {
+    money().setFunds(100000);
+    take("10000", "10");
+    loans().loansNextMonth();
+    EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.5); // a payment: the whole amount counts
+    const double before = money().funds;
+    loans().payOffLoan(); // 9000 left plus one more payment's interest
+    EXPECT_EQ(money().funds, before - 9200);
+    EXPECT_EQ(money().deploan, 1200 + 9200);
+    EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.56); // pay-off: only the monthly payment
+    EXPECT_EQ(game.screen.lines.back(), "You have cleared your debt with the bank!");
+    EXPECT_EQ(loans().balance, 0);
+    EXPECT_EQ(loans().paymentsRemaining, 0);
+    EXPECT_EQ(loans().loanAmount, 10000); // the panel shows the old loan
+    EXPECT_EQ(loans().monthlyPayment, 1200);
+    loans().loansNextMonth(); // a paid-off loan is not touched
+    EXPECT_EQ(money().deploan, 10400);
+    EXPECT_EQ(loans().loanAmount, 10000);
+    loans().payOffLoan(); // the second press clears it
+    EXPECT_EQ(loans().loanAmount, 0);
+    EXPECT_EQ(loans().monthlyPayment, 0);
+    EXPECT_EQ(money().deploan, 10400);
+}
+
+TEST_F(LoanFixture, ANewLoanCanFollowAPaidOffOne) {
+    money().setFunds(100000);
+    take("10000", "10");
+    loans().payOffLoan();
+    take("20000", "20");
+    EXPECT_EQ(loans().loanAmount, 20000);
+    EXPECT_EQ(loans().balance, 20000);
+}
+
+TEST_F(LoanFixture, APayOffTheFundsCannotBearChangesNothing) {
+    take("10000", "10");
+    money().setFunds(10200); // the price is 10200: less than 1 would remain
+    loans().payOffLoan();
+    EXPECT_EQ(game.screen.lines.back(),
+              "You could not afford the final loan payment of $10,200, this includes the "
+              "remaining balance plus interest for one more payment.");
+    EXPECT_EQ(money().funds, 10200);
+    EXPECT_EQ(loans().balance, 10000);
+    EXPECT_EQ(loans().getCreditScore(), 50);
+}
+
+TEST_F(LoanFixture, PayOffWithoutALoanDoesNothing) {
+    money().setFunds(1000);
+    const auto lines = game.screen.lines.size();
+    loans().payOffLoan();
+    EXPECT_EQ(game.screen.lines.size(), lines);
+    EXPECT_EQ(money().funds, 1000);
+}
+
+TEST_F(LoanFixture, TheScoreStaysBetweenZeroAndTheMaximum) {
+    loans().raiseCreditScore(10000000);
+    EXPECT_EQ(loans().getCreditScore(), 100);
+    loans().lowerCreditScore(10000000);
+    EXPECT_EQ(loans().getCreditScore(), 0);
+    loans().raiseCreditScore(1234.5); // 0.061725 to two decimals
+    EXPECT_DOUBLE_EQ(loans().getCreditScore(), 0.06);
+    EXPECT_EQ(loans().creditText(), "0.06 %");
+}

@@ -1,0 +1,388 @@
+#include "MovieFixture.h"
+
+#include "core/GameError.h"
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+using Booker = MovieFixture;
+
+void setPop(MovieManager& mm, int i, int pop) {
+    mm.catalogueMovie(i).setMyPopularity(pop);
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- catalogue
+
+TEST_F(Booker, CatalogueTakesEveryLineAsATitle) {
+    setUpWith("One\n\nThree\r\nFour");
+    ASSERT_EQ(mm().allMoviesCount(), 4);
+    EXPECT_EQ(mm().catalogueMovie(2).getMyTitle(), ""); // a blank line is a title too
+    EXPECT_EQ(mm().catalogueMovie(3).getMyTitle(), "Three");
+    EXPECT_EQ(mm().catalogueMovie(4).getMyNum(), 4);
+    for (int i = 1; i <= 4; ++i) {
+        const int pop = mm().catalogueMovie(i).getMyPopularity();
+        EXPECT_GE(pop, 1);
+        EXPECT_LE(pop, 100);
+        EXPECT_EQ(mm().catalogueMovie(i).getMyPrice(), pop * 100.0);
+    }
+}
+
+TEST_F(Booker, PopularityIsRolledUntilItLiesWithinTheBounds) {
+    math().movieminpop = 10; // rolls run from 10 to 109
+    dir.write("movies.lst", "Solo\n");
+    g().rng.force({0.0, 0.95, 0.25}); // classic level; 105 rolled again; 35
+    MovieManager fresh(g());
+    fresh.loadMovieList();
+    EXPECT_EQ(fresh.catalogueMovie(1).getClassic(), 5);
+    EXPECT_EQ(fresh.catalogueMovie(1).getMyPopularity(), 35);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+}
+
+TEST_F(Booker, AZeroWithinTheBoundsIsTakenWithoutARoll) {
+    math().movieminpop = 0;
+    dir.write("movies.lst", "Solo\n");
+    const auto draws = g().rng.draws();
+    MovieManager fresh(g());
+    fresh.loadMovieList();
+    EXPECT_EQ(fresh.catalogueMovie(1).getMyPopularity(), 0);
+    EXPECT_EQ(g().rng.draws(), draws + 1); // the classic level only
+}
+
+TEST_F(Booker, AMissingCatalogueIsFatal) {
+    std::filesystem::remove(dir.file("movies.lst"));
+    MovieManager fresh(g());
+    EXPECT_THROW(fresh.loadMovieList(), GameError);
+}
+
+// ---------------------------------------------------------------- weekly release
+
+TEST_F(Booker, ReleaseMessageCountsTheDrawsEvenWhenAllAreTooDear) {
+    for (int i = 1; i <= 6; ++i)
+        setPop(mm(), i, 50); // $5,000 each
+    g().finances.setFunds(4999);
+    offer({1, 2, 3});
+    EXPECT_EQ(mm().buyMoviesCount(), 0);
+    EXPECT_EQ(logged("3 new movies have been released this week."), 1);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u); // no second draw for a rejection
+}
+
+TEST_F(Booker, ReleaseTurnsAwayRepeatsAndTitlesAlreadyOnOffer) {
+    setUpWith("Alpha\nBeta\nALPHA\nDelta\n");
+    offer({1, 1, 3, 2});
+    ASSERT_EQ(mm().buyMoviesCount(), 2);
+    EXPECT_EQ(logged("4 new movies have been released this week."), 1);
+    for (int i = 1; i <= 2; ++i) {
+        const std::string title = mm().buyMovieAt(i).getMyTitle();
+        EXPECT_TRUE(title == "Alpha" || title == "Beta") << title;
+    }
+}
+
+TEST_F(Booker, ReleaseOffersWhatTheFundsCanPayExactly) {
+    setPop(mm(), 4, 90);
+    setPop(mm(), 5, 91);
+    g().finances.setFunds(9000);
+    offer({4, 5});
+    ASSERT_EQ(mm().buyMoviesCount(), 1);
+    EXPECT_EQ(mm().buyMovieAt(1).getMyTitle(), "Delta");
+}
+
+TEST_F(Booker, ReleaseDrawsFromMinUpToJustShortOfMinPlusMax) {
+    math().movieminreleases = 3;
+    math().moviemaxreleases = 5;
+    g().rng.force(0.999); // Int(4.995 + 3) = 7
+    for (int i = 0; i < 7; ++i)
+        g().rng.force(0.0); // always Alpha: one offer, six repeats
+    mm().releaseMovies();
+    EXPECT_EQ(logged("7 new movies have been released this week."), 1);
+    EXPECT_EQ(mm().buyMoviesCount(), 1);
+}
+
+TEST_F(Booker, LastWeeksOfferIsGone) {
+    offer({1, 2});
+    offer({3});
+    ASSERT_EQ(mm().buyMoviesCount(), 1);
+    EXPECT_EQ(mm().buyMovieAt(1).getMyTitle(), "Gamma");
+}
+
+TEST_F(Booker, AnOwnedTitleMayComeUpAgainAsTheSameObject) {
+    own({2});
+    offer({2});
+    ASSERT_EQ(mm().buyMoviesCount(), 1);
+    EXPECT_EQ(&mm().buyMovieAt(1), &mm().myMovieAt(1));
+    EXPECT_TRUE(mm().sharesObject(1, 2));
+}
+
+TEST_F(Booker, AnEmptyCatalogueFailsAtTheRelease) {
+    setUpWith("");
+    EXPECT_EQ(mm().allMoviesCount(), 0);
+    math().movieminreleases = 1;
+    g().rng.force({0.0, 0.5}); // one draw: Int(0 * u + 1) = 1, a title that is not there
+    EXPECT_THROW(mm().releaseMovies(), GameError);
+}
+
+TEST_F(Booker, OfferIsSortedByPopularityAndDropsOutOfRangeOnes) {
+    setPop(mm(), 1, 30);
+    setPop(mm(), 2, 80);
+    setPop(mm(), 3, 30);
+    setPop(mm(), 4, 0);
+    setPop(mm(), 5, 150);
+    offer({1, 2, 3, 4, 5});
+    ASSERT_EQ(mm().buyMoviesCount(), 3);
+    EXPECT_EQ(mm().buyMovieAt(1).getMyTitle(), "Beta");
+    EXPECT_EQ(mm().buyMovieAt(2).getMyTitle(), "Alpha"); // ties keep their order
+    EXPECT_EQ(mm().buyMovieAt(3).getMyTitle(), "Gamma");
+    EXPECT_EQ(mm().buyMovieAt(1).getMyNum(), 2); // numbered before the sort, not after
+    EXPECT_EQ(mm().buyMovieAt(3).getMyNum(), 3);
+}
+
+// ---------------------------------------------------------------- buying
+
+TEST_F(Booker, BuyingIsRefusedAtFundsOfPricePlus99Cents) {
+    setPop(mm(), 2, 40); // $4,000
+    offer({2});
+    g().finances.setFunds(4000.99);
+    mm().buyMovie(1);
+    EXPECT_EQ(logged("You cannot afford this movie!"), 1);
+    EXPECT_EQ(mm().buyMoviesCount(), 1);
+    EXPECT_EQ(mm().myMoviesCount(), 0);
+    EXPECT_EQ(g().finances.getFunds(), 4000.99);
+    EXPECT_EQ(g().finances.depmovie, 0);
+}
+
+TEST_F(Booker, BuyingSucceedsAtFundsOfPricePlusOne) {
+    setPop(mm(), 2, 40);
+    offer({2});
+    g().finances.setFunds(4001);
+    mm().buyMovie(1);
+    EXPECT_EQ(logged("You cannot afford this movie!"), 0);
+    EXPECT_EQ(g().finances.getFunds(), 1);
+    EXPECT_EQ(g().finances.depmovie, 4000);
+    ASSERT_EQ(mm().myMoviesCount(), 1);
+    EXPECT_EQ(mm().myMovieAt(1).getFirstPrice(), 4000);
+    EXPECT_EQ(mm().myMovieAt(1).getMyProfit(), 0);
+    EXPECT_EQ(mm().buyMoviesCount(), 0);
+    EXPECT_EQ(mm().selectedMyMovie(), 0); // the list shows it and selects the last line
+}
+
+TEST_F(Booker, BuyingTakesTheRowOutWithoutRenumbering) {
+    setPop(mm(), 1, 90);
+    setPop(mm(), 2, 80);
+    setPop(mm(), 3, 70);
+    own({4});
+    offer({1, 2, 3});
+    mm().buyMovie(2);
+    ASSERT_EQ(mm().buyMoviesCount(), 2);
+    EXPECT_EQ(mm().buyMovieAt(1).getMyNum(), 1);
+    EXPECT_EQ(mm().buyMovieAt(2).getMyNum(), 3);
+    EXPECT_EQ(mm().myMovieAt(2).getMyTitle(), "Beta");
+    EXPECT_EQ(mm().myMovieAt(2).getMyNum(), 2); // its place in the own list
+}
+
+TEST_F(Booker, BuyingFromAnEmptyOfferDoesNothing) {
+    offer({});
+    EXPECT_NO_THROW(mm().buyMovie(3));
+    EXPECT_EQ(mm().myMoviesCount(), 0);
+}
+
+// ---------------------------------------------------------------- selling
+
+TEST_F(Booker, SellingFromTheMiddleRenumbersAndBlanksTodaysFigures) {
+    g().building.seating = 100;
+    own({1, 2, 3});
+    book(1, {1});
+    book(2, {2});
+    book(3, {3, 4});
+    for (int s = 1; s <= 4; ++s)
+        mm().showtimeAt(s).doBusiness();
+    ASSERT_GT(mm().showtimeAt(1).getTodaysTicketSales(), 0);
+    const double price = mm().myMovieAt(2).getMyPrice();
+    const double funds = g().finances.getFunds();
+    const double movieIncome = g().finances.incdepmovie;
+
+    mm().selectMyMovie(1);
+    mm().sellMovie();
+
+    EXPECT_DOUBLE_EQ(g().finances.getFunds(), funds + price);
+    EXPECT_EQ(g().finances.incdepmovie, movieIncome); // the sale counts for no department
+    ASSERT_EQ(mm().myMoviesCount(), 2);
+    EXPECT_EQ(mm().myMovieAt(2).getMyTitle(), "Gamma");
+    EXPECT_EQ(mm().myMovieAt(2).getMyNum(), 3); // Num is not renumbered
+    EXPECT_EQ(mm().showtimeAt(1).getMyMovie(), 1);
+    EXPECT_EQ(mm().showtimeAt(2).getMyMovie(), 0);
+    EXPECT_EQ(mm().showtimeAt(3).getMyMovie(), 2);
+    EXPECT_EQ(mm().showtimeAt(4).getMyMovie(), 2);
+    for (int s = 1; s <= 4; ++s) { // also showtime 1, whose number stayed the same
+        EXPECT_EQ(mm().showtimeAt(s).getTodaysTicketSales(), 0) << s;
+        EXPECT_EQ(mm().showtimeAt(s).getTodaysIncome(), 0) << s;
+    }
+    EXPECT_EQ(mm().selectedMyMovie(), 1);
+}
+
+TEST_F(Booker, SellingStopsTheMoviesShowtimes) {
+    own({1, 2});
+    book(2, {5, 6});
+    mm().selectMyMovie(1);
+    mm().sellMovie();
+    EXPECT_EQ(mm().showtimeAt(5).getMyMovie(), 0);
+    EXPECT_EQ(mm().showtimeAt(6).getMyMovie(), 0);
+    EXPECT_FALSE(mm().catalogueMovie(2).getRunning());
+}
+
+TEST_F(Booker, SellingWithNothingSelectedSellsNothing) {
+    own({1});
+    mm().selectMyMovie(-1);
+    const double funds = g().finances.getFunds();
+    mm().sellMovie();
+    EXPECT_EQ(mm().myMoviesCount(), 1);
+    EXPECT_EQ(g().finances.getFunds(), funds);
+    EXPECT_THROW(mm().selectMyMovie(1), GameError); // no such line
+}
+
+TEST_F(Booker, APriceDropSelectsTheLastLineAgain) {
+    own({1, 2});
+    mm().selectMyMovie(0);
+    math().moviepopdropdays = 1;
+    mm().myMovieAt(1).setMyPopularity(90);
+    g().rng.force(0.0);
+    mm().myMovieAt(1).nextDay(); // a drop: the resale price asks for the own list
+    EXPECT_EQ(mm().selectedMyMovie(), 1);
+}
+
+// ---------------------------------------------------------------- showtimes
+
+TEST_F(Booker, AssigningOverwritesAndLeavesTheOldMovieRunning) {
+    own({1, 2});
+    book(1, {1, 2});
+    EXPECT_EQ(mm().showtimeAt(1).getMyMovie(), 1);
+    EXPECT_TRUE(mm().myMovieAt(1).getRunning());
+    EXPECT_FALSE(mm().isShowtimeChecked(1)); // the boxes are cleared
+    book(2, {2});
+    EXPECT_EQ(mm().showtimeAt(2).getMyMovie(), 2);
+    EXPECT_TRUE(mm().myMovieAt(1).getRunning()); // stale, as the game has it
+}
+
+TEST_F(Booker, StoppingMarksTheMovieNotRunningEvenIfItStillPlays) {
+    own({1});
+    book(1, {3, 4});
+    mm().checkShowtime(3, true);
+    mm().stopShowtimes(0);
+    EXPECT_EQ(mm().showtimeAt(3).getMyMovie(), 0);
+    EXPECT_EQ(mm().showtimeAt(4).getMyMovie(), 1);
+    EXPECT_FALSE(mm().myMovieAt(1).getRunning());
+    EXPECT_FALSE(mm().isShowtimeChecked(3));
+}
+
+TEST_F(Booker, AssigningTheSelectedLine) {
+    own({1, 2});
+    mm().selectMyMovie(0);
+    mm().assignOnly(5);
+    EXPECT_EQ(mm().showtimeAt(5).getMyMovie(), 1);
+    mm().selectMyMovie(-1);
+    mm().assignOnly(6); // no line selected: nothing but the boxes cleared
+    EXPECT_EQ(mm().showtimeAt(6).getMyMovie(), 0);
+    EXPECT_FALSE(mm().isShowtimeChecked(6));
+}
+
+TEST_F(Booker, TheBoxForAllShowtimesChecksAllAndIsCleared) {
+    own({1});
+    mm().checkAllShowtimes(true);
+    EXPECT_TRUE(mm().allShowtimesChecked());
+    mm().assignShowtimes(1);
+    for (int s = 1; s <= 8; ++s) {
+        EXPECT_EQ(mm().showtimeAt(s).getMyMovie(), 1);
+        EXPECT_FALSE(mm().isShowtimeChecked(s));
+    }
+    EXPECT_FALSE(mm().allShowtimesChecked());
+}
+
+TEST_F(Booker, NewGameShowtimes) {
+    for (int s = 1; s <= 8; ++s) {
+        const showtime& st = mm().showtimeAt(s);
+        EXPECT_EQ(st.isMatinee(), s <= 2) << s;
+        EXPECT_EQ(st.getName(), math().showtimename[static_cast<std::size_t>(s)]);
+        EXPECT_EQ(st.getMyMovie(), 0);
+        EXPECT_EQ(st.getAds(), 0);
+    }
+    EXPECT_EQ(mm().getTicketPrice(0), 6);
+    EXPECT_EQ(mm().getTicketPrice(1), 4.5);
+    EXPECT_EQ(mm().getTicketPrice(2), 4);
+}
+
+TEST_F(Booker, ShowtimesBeyondTheMathCountHaveNoNameButPlay) {
+    math().showtimes = 6;
+    math().showtimename = {"", "a", "b", "c", "d", "e", "f", "g", "h"};
+    MovieManager fresh(g());
+    fresh.initShowtimes();
+    EXPECT_EQ(fresh.showtimeAt(6).getName(), "f");
+    EXPECT_EQ(fresh.showtimeAt(7).getName(), "");
+    EXPECT_EQ(fresh.showtimeAt(7).labelCaption(), "10 PM"); // the label's own text
+    fresh.showtimeAt(7).toggleMatinee();
+    EXPECT_EQ(logged("10 PM is now at matinee prices"), 1);
+}
+
+TEST_F(Booker, TicketPricesTakeIndexesZeroToTwo) {
+    mm().setTicketPrice(1, 3.25);
+    mm().setTicketPrice(3, 9);
+    mm().setTicketPrice(-1, 9);
+    EXPECT_EQ(mm().getTicketPrice(1), 3.25);
+    EXPECT_EQ(mm().getTicketPrice(3), 0);
+    EXPECT_EQ(mm().getTicketPrice(-1), 0);
+    EXPECT_EQ(mm().getTicketPrice(0), 6);
+}
+
+// ---------------------------------------------------------------- ads
+
+TEST_F(Booker, AdsCapTestsTheTotalPlusTheNewCount) {
+    const std::string refused =
+        "You are not allowed to show any more ads than you already are in your theater!";
+    for (int s = 1; s <= 4; ++s)
+        mm().setShowtimeAds(s, 5);
+    mm().setShowtimeAds(5, 4);
+    EXPECT_EQ(mm().getTotalAds(), 24);
+    // Lowering showtime 1 to 1 ad is tested as 24 + 1 and refused.
+    mm().setShowtimeAds(1, 1);
+    EXPECT_EQ(logged(refused), 1);
+    EXPECT_EQ(mm().getAds(1), 5);
+    mm().setShowtimeAds(1, 0);
+    EXPECT_EQ(mm().getAds(1), 0);
+    // 19 + 5 is allowed, 19 + 6 is not, although showtime 2 holds 5 already.
+    mm().setShowtimeAds(2, 6);
+    EXPECT_EQ(logged(refused), 2);
+    EXPECT_EQ(mm().getAds(2), 5);
+}
+
+TEST_F(Booker, AShowtimeTakesAtMostShowtimeadsmaxAndNoLowerBound) {
+    mm().setShowtimeAds(1, 9);
+    EXPECT_EQ(mm().getAds(1), 5);
+    mm().setShowtimeAds(2, -3);
+    EXPECT_EQ(mm().getAds(2), -3);
+    EXPECT_EQ(mm().getTotalAds(), 2);
+}
+
+TEST_F(Booker, AdsBeyondTheShowtimeCountAreNotSetNorCounted) {
+    math().showtimes = 6;
+    mm().setShowtimeAds(7, 3);
+    EXPECT_EQ(mm().getAds(7), 0);
+    int ads = 4;
+    mm().showtimeAt(7).setAds(ads); // as a saved game may hold them
+    mm().setShowtimeAds(1, 2);
+    EXPECT_EQ(mm().getTotalAds(), 2);
+    math().showtimes = 0;
+    EXPECT_EQ(mm().getTotalAds(), 0);
+}
+
+// ---------------------------------------------------------------- year
+
+TEST_F(Booker, InflationReachesOwnedTitlesThroughTheCatalogue) {
+    setPop(mm(), 1, 50);
+    own({1});
+    const double other = mm().catalogueMovie(2).getMyPrice();
+    mm().nextYearMovies();
+    EXPECT_DOUBLE_EQ(mm().myMovieAt(1).getMyPrice(), 5150);
+    EXPECT_EQ(mm().myMovieAt(1).getFirstPrice(), 5000);
+    EXPECT_DOUBLE_EQ(mm().catalogueMovie(2).getMyPrice(), other * 1.03);
+}

@@ -1,0 +1,211 @@
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+const char* const capMessage =
+    "Could not add this promotion, hit maximum possible promotion level.";
+const char* const stopMessage = "Couldn't afford to pay promotions, all promos stopped!!";
+
+struct PromoFixture : ::testing::Test {
+    TempDir dir;
+    TestGame game{dir.path().string()};
+    promoManager& promos() { return game->promos; }
+
+    void SetUp() override {
+        MathVars& m = game->math;
+        const int points[] = {1, 3, 6, 10, 15};
+        const double costs[] = {18, 45, 75, 110, 150};
+        for (std::size_t i = 0; i < 5; ++i) {
+            m.promo[i] = points[i];
+            m.promocost[i] = costs[i];
+        }
+        m.promomax = 100;
+        m.inflation = 3;
+        game->finances.setFunds(10000);
+        promos().promosSetup();
+    }
+    void add(int medium, int times) {
+        for (int i = 0; i < times; ++i)
+            promos().addPromo(medium);
+    }
+    std::string saved() {
+        std::ostringstream out;
+        LineWriter w(out);
+        promos().savePromotions(w);
+        return out.str();
+    }
+};
+
+} // namespace
+
+TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
+    EXPECT_EQ(promos().promoName,
+              (std::array<std::string, 5>{"Nickel", "Paper", "Radio", "Billboard", "TV"}));
+    EXPECT_EQ(promos().promoCost[4], 150);
+    const PromotionsView v = promos().view();
+    EXPECT_EQ(v.pointLabels[0], "+1 Point");
+    EXPECT_EQ(v.pointLabels[3], "+10 Points");
+    EXPECT_EQ(v.costLabels[2], "$75");
+    EXPECT_TRUE(v.rows.empty());
+    EXPECT_EQ(v.currentPromoLevel, "0");
+    EXPECT_EQ(v.totalDailyPayments, "$0");
+}
+
+TEST_F(PromoFixture, PointsAndCostOfTheRunningAds) {
+    add(4, 2);
+    add(1, 1);
+    EXPECT_EQ(promos().getPromoPoints(), 33);
+    EXPECT_EQ(promos().getPromoCost(), 345);
+    EXPECT_EQ(promos().promoRunning[4], 2);
+}
+
+TEST_F(PromoFixture, ExactlyAtTheCapIsAccepted) {
+    add(4, 6); // 90
+    add(3, 1); // 100: exactly at promomax
+    EXPECT_EQ(promos().getPromoPoints(), 100);
+    EXPECT_EQ(game.screen.count(capMessage), 0);
+    add(0, 1); // 101: refused
+    EXPECT_EQ(promos().promoRunning[0], 0);
+    EXPECT_EQ(game.screen.count(capMessage), 1);
+    EXPECT_EQ(promos().getPromoPoints(), 100);
+}
+
+TEST_F(PromoFixture, OneBelowTheCapRefusesABiggerMedium) {
+    add(4, 6);
+    add(2, 1); // 96
+    add(1, 1); // 99
+    add(1, 1); // 102: refused
+    EXPECT_EQ(promos().promoRunning[1], 1);
+    add(0, 1); // 100: accepted
+    EXPECT_EQ(promos().getPromoPoints(), 100);
+}
+
+TEST_F(PromoFixture, AMediumWithoutPointsRunsWithoutLimitAndOffTheTable) {
+    game->math.promo[0] = 0;
+    add(4, 6);
+    add(3, 1);
+    add(0, 3);
+    EXPECT_EQ(promos().promoRunning[0], 3);
+    const PromotionsView v = promos().view();
+    ASSERT_EQ(v.rows.size(), 2u);
+    EXPECT_EQ(v.rows[0].promo, "Billboard");
+    EXPECT_EQ(v.rows[1].promo, "TV");
+    EXPECT_EQ(v.rows[1].pts, "90");
+    EXPECT_EQ(v.rows[1].count, "6");
+    EXPECT_EQ(v.rows[1].price, "$900");
+    EXPECT_EQ(v.currentPromoLevel, "100");
+    EXPECT_EQ(v.totalDailyPayments, "$1,064"); // 900 + 110 + 3 * 18
+}
+
+TEST_F(PromoFixture, DropAndDropAll) {
+    promos().dropPromo(2);
+    EXPECT_EQ(game.screen.lines.back(), "You aren't running any Radio ads!");
+    EXPECT_EQ(promos().promoRunning[2], 0);
+    add(2, 2);
+    promos().dropPromo(2);
+    EXPECT_EQ(promos().promoRunning[2], 1);
+    add(4, 1);
+    promos().dropAllPromos();
+    EXPECT_EQ(promos().getPromoPoints(), 0);
+    EXPECT_THROW(promos().addPromo(5), GameError);
+    EXPECT_THROW(promos().dropPromo(-1), GameError);
+}
+
+TEST_F(PromoFixture, TheDailyChargeIsPaidUnderPromotions) {
+    add(4, 1);
+    add(1, 1);
+    promos().promosNextDay();
+    EXPECT_DOUBLE_EQ(game->finances.deppromo, 195);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 10000 - 195);
+    EXPECT_EQ(promos().promoRunning[4], 1);
+}
+
+TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
+    add(4, 1);
+    add(1, 1);
+    game->finances.setFunds(195.5); // would leave 0.5
+    promos().promosNextDay();
+    EXPECT_EQ(game.screen.lines.back(), stopMessage);
+    EXPECT_EQ(promos().promoRunning[4], 0);
+    EXPECT_EQ(promos().promoRunning[1], 0);
+    EXPECT_EQ(game->finances.deppromo, 0); // nothing is paid: all or nothing
+    EXPECT_EQ(game->finances.funds, 195.5);
+
+    game->finances.setFunds(196); // leaves exactly 1: paid
+    add(4, 1);
+    add(1, 1);
+    promos().promosNextDay();
+    EXPECT_EQ(promos().promoRunning[4], 1);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
+}
+
+TEST_F(PromoFixture, WithNothingRunningTheMessageComesBelowOneDollar) {
+    game->finances.setFunds(0.5);
+    promos().promosNextDay();
+    promos().promosNextDay();
+    EXPECT_EQ(game.screen.count(stopMessage), 2);
+}
+
+TEST_F(PromoFixture, YearlyInflation) {
+    add(3, 2);
+    promos().promosNextYear();
+    EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
+    EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
+    EXPECT_EQ(promos().promoRunning[3], 2);
+    EXPECT_EQ(promos().view().costLabels[3], "$113.30");
+}
+
+TEST_F(PromoFixture, PointSumOverflowIsFatal) {
+    game->math.promo[4] = 20000;
+    game->math.promomax = 1e9;
+    promos().addPromo(4);
+    EXPECT_THROW(promos().addPromo(4), GameError); // 40000 points
+}
+
+TEST_F(PromoFixture, SectionSaveLoadSame) {
+    add(2, 3);
+    add(0, 1);
+    promos().promosNextYear();
+    const std::string text = saved();
+    EXPECT_EQ(text.substr(0, 54), "<promotions>\r\nrunning 0=1\r\ncost 0=18.54\r\nrunning 1=0\r\n");
+    EXPECT_EQ(text.substr(text.size() - 15), "</promotions>\r\n");
+
+    TempDir otherDir;
+    TestGame other(otherDir.path().string());
+    other->math = game->math;
+    other->promos.promosSetup();
+    std::istringstream in(text);
+    LineReader reader(in, "test.zvn");
+    other->promos.loadPromotions(reader);
+    std::ostringstream again;
+    LineWriter w(again);
+    other->promos.savePromotions(w);
+    EXPECT_EQ(again.str(), text); // the grown costs, not the math file's
+    EXPECT_EQ(other->promos.totalPoints(), 19);
+}
+
+TEST_F(PromoFixture, SectionReaderQuirks) {
+    std::istringstream in("RUNNING 3=2.5\r\n" // ties to even
+                          "Cost 4=99.5abc\r\n"
+                          "running 5=7\r\n" // no such medium
+                          "running3=9\r\n"  // the blank is part of the key
+                          "</promotions>\r\n"
+                          "running 0=4\r\n");
+    LineReader reader(in, "test.zvn");
+    promos().loadPromotions(reader);
+    EXPECT_EQ(promos().promoRunning[3], 2);
+    EXPECT_EQ(promos().promoCost[4], 99.5);
+    EXPECT_EQ(promos().promoRunning[0], 0);
+    // The reader ends with showPromotions, which takes the loaded total for the cap.
+    EXPECT_EQ(promos().totalPoints(), 20);
+}

@@ -1,0 +1,220 @@
+#include "Simulator.h"
+#include "core/Game.h"
+#include "core/GameError.h"
+#include "core/LineReader.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+// A started game whose rating is driven by the stand alone: every other weight is 0, so
+// the day's rating is (ratingconcessions percent of the quality score) clamped.
+struct RatingFixture : ::testing::Test {
+    DataFolder data;
+    std::unique_ptr<TestGame> game;
+    ratingManager& rating() { return (*game)->rating; }
+
+    void SetUp() override {
+        game = std::make_unique<TestGame>(data.path().string(), 7);
+        (*game)->startup();
+        MathVars& m = (*game)->math;
+        for (Int16* w :
+             {&m.ratingdemand, &m.ratingads, &m.ratinganger, &m.ratingpay, &m.ratingambition,
+              &m.ratingpromo, &m.ratinggamepops, &m.ratingrnd, &m.ratingconcessions})
+            *w = 0;
+        m.ratinggamenums = 0;
+    }
+    // All five items at one quality; score 125 at quality 2, 62 with two at 2 and one at 1.
+    void qualities(int q) {
+        for (int i = 0; i < 5; ++i)
+            (*game)->concessions.setItemQuality(i, q);
+    }
+    std::string saved() {
+        std::ostringstream out;
+        LineWriter w(out);
+        rating().saveRatings(w);
+        return out.str();
+    }
+};
+
+} // namespace
+
+TEST_F(RatingFixture, WithNothingToCountTheRatingIsOne) {
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().getRating(), 1);
+    EXPECT_EQ(rating().dayTerms(), (std::array<int, 11>{}));
+}
+
+TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
+    qualities(2);
+    (*game)->math.ratingconcessions = 20;
+    const std::array<int, 11> t = rating().dayTerms();
+    EXPECT_EQ(t[4], 25);
+    EXPECT_EQ(rating().ratingOfTheDay(), 25);
+}
+
+TEST_F(RatingFixture, TheDailyAverageIsFloored) {
+    qualities(2);
+    (*game)->math.ratingconcessions = 80; // 125 * 0.8 = 100
+    rating().currentAverage = 0;
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().currentRating, 100);
+    EXPECT_EQ(rating().currentAverage, 50);
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().currentAverage, 75);
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().currentAverage, 87); // 87.5 floored
+    EXPECT_EQ(rating().ratingCaption(), "100 %");
+    EXPECT_EQ(rating().ratingBarWidth(1500), 1500);
+
+    (*game)->math.ratingconcessions = 40; // 50
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().currentRating, 50);
+    EXPECT_EQ(rating().currentAverage, 68); // (87 + 50) / 2
+    EXPECT_EQ(rating().ratingBarWidth(1001), 500);
+}
+
+TEST_F(RatingFixture, TheSumClampsAtOneHundred) {
+    qualities(2);
+    (*game)->math.ratingconcessions = 200;
+    rating().ratingNextDay();
+    EXPECT_EQ(rating().currentRating, 100);
+}
+
+TEST_F(RatingFixture, StartDrawsEveryBarEmpty) {
+    const auto& bars = rating().bars();
+    for (int m = 0; m < 12; ++m) {
+        EXPECT_EQ(bars[m].top, 2820) << m;
+        EXPECT_EQ(bars[m].height, 0) << m;
+        EXPECT_EQ(bars[m].tip, "0%") << m;
+    }
+    // Start-up stands on January: its bar is green, the rest neutral.
+    EXPECT_EQ(bars[0].colour, 0x00C000u);
+    EXPECT_EQ(bars[1].colour, 0x80FFFFu);
+}
+
+TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
+    (*game)->calendar.currentmonth = 3;
+    rating().currentRating = 57;
+    rating().currentAverage = 40;
+    rating().ratingNextMonth();
+    EXPECT_EQ(rating().history[3], 57);
+    EXPECT_EQ(rating().currentAverage, 0);
+    const HistoryBar& bar = rating().bars()[3];
+    EXPECT_EQ(bar.top, 2409);
+    EXPECT_EQ(bar.height, 411);
+    EXPECT_EQ(bar.colour, 0x00C000u);
+    EXPECT_EQ(bar.tip, "57%");
+
+    // A new year paints the bars neutral and leaves their heights.
+    rating().ratingNextYear();
+    EXPECT_EQ(rating().bars()[3].colour, 0x80FFFFu);
+    EXPECT_EQ(rating().bars()[3].height, 411);
+    EXPECT_EQ(rating().history[3], 57);
+}
+
+TEST_F(RatingFixture, AMonthOutOfRangeIsABoundsError) {
+    (*game)->calendar.currentmonth = 12;
+    EXPECT_THROW(rating().ratingNextMonth(), GameError);
+}
+
+TEST_F(RatingFixture, MonthEndTakesTheRatingOfTheDayBefore) {
+    // Start-up ran day 1; the 28th day turns the month before its own rating.
+    for (int d = 0; d < 26; ++d)
+        (*game)->calendar.nextDay();
+    EXPECT_EQ(rating().currentRating, 1);
+    qualities(2);
+    (*game)->math.ratingconcessions = 80;
+    (*game)->calendar.nextDay();
+    EXPECT_EQ((*game)->calendar.currentmonth, 1);
+    EXPECT_EQ(rating().history[0], 1);      // the rating of the day before
+    EXPECT_EQ(rating().currentRating, 100); // the day's own rating came after
+    EXPECT_EQ(rating().currentAverage, 50); // from 0 again
+}
+
+TEST_F(RatingFixture, SectionSaveLoadSame) {
+    rating().currentRating = 64;
+    rating().currentAverage = 31;
+    rating().history[0] = 5;
+    rating().history[11] = 100;
+    const std::string text = saved();
+    EXPECT_EQ(text.substr(0, 53), "<ratings>\r\ncurrentAverage= 31\r\ncurrentRating= 64\r\nhis");
+    EXPECT_NE(text.find("\r\nhistory(0)= 5\r\nhistory(1)= 0\r\n"), std::string::npos);
+    EXPECT_EQ(text.substr(text.size() - 30), "history(11)= 100\r\n</ratings>\r\n");
+
+    rating().currentRating = 1;
+    rating().history[0] = 0;
+    (*game)->calendar.currentmonth = 0;
+    std::istringstream in(text);
+    LineReader reader(in, "test.zvn");
+    rating().loadRatings(reader);
+    EXPECT_EQ(saved(), text);
+    EXPECT_EQ(rating().ratingCaption(), "64 %");
+    EXPECT_EQ(rating().bars()[11].height, 720);
+    EXPECT_EQ(rating().bars()[11].colour, 0x80FFFFu); // later than the current month
+    EXPECT_EQ(rating().bars()[0].colour, 0x00C000u);
+    EXPECT_EQ(rating().bars()[0].tip, "5%");
+}
+
+TEST_F(RatingFixture, SectionReaderQuirks) {
+    std::istringstream in("CURRENTRATING=250\r\n" // not clamped
+                          "History(3.5)=12\r\n"   // index ties to even: 4
+                          "historyx(2)=9\r\n"     // the first seven letters decide
+                          "currentaverage=-3\r\n"
+                          "</ratings>\r\n");
+    LineReader reader(in, "test.zvn");
+    rating().loadRatings(reader);
+    EXPECT_EQ(rating().currentRating, 250);
+    EXPECT_EQ(rating().history[4], 12);
+    EXPECT_EQ(rating().history[2], 9);
+    EXPECT_EQ(rating().currentAverage, -3);
+    EXPECT_NE(saved().find("currentAverage=-3\r\n"), std::string::npos);
+
+    std::istringstream bad("history(12)=1\r\n</ratings>\r\n");
+    LineReader badReader(bad, "test.zvn");
+    EXPECT_THROW(rating().loadRatings(badReader), GameError);
+}
+
+TEST(PromoScript, CommandsAndState) {
+    DataFolder data;
+    std::ostringstream out;
+    sim::SimOptions options;
+    options.dataDir = data.path().string();
+    options.seed = 2;
+    options.quiet = true;
+    sim::Simulator simulator(options, out);
+    simulator.startup();
+    Game& game = simulator.game();
+    const int cap = static_cast<int>(game.math.promomax);
+    simulator.runLine("promo add 4", 1);
+    simulator.runLine("promo add 4", 2);
+    simulator.runLine("promo add 0", 3);
+    simulator.runLine("promo drop 4", 4);
+    EXPECT_EQ(game.promos.promoRunning[4], 1);
+    EXPECT_EQ(game.promos.promoRunning[0], 1);
+    EXPECT_THROW(simulator.runLine("promo add 5", 5), sim::ScriptError);
+    EXPECT_THROW(simulator.runLine("promo add", 6), sim::ScriptError);
+    EXPECT_THROW(simulator.runLine("promo buy 1", 7), sim::ScriptError);
+    EXPECT_THROW(simulator.runLine("promo dropall 1", 8), sim::ScriptError);
+
+    simulator.runLine("state", 9);
+    const auto state = nlohmann::json::parse(out.str());
+    ASSERT_EQ(state["promotions"]["running"].size(), 5u);
+    EXPECT_EQ(state["promotions"]["running"][4], 1);
+    EXPECT_EQ(state["promotions"]["cost"][4], game.promos.promoCost[4]);
+    EXPECT_EQ(state["promotions"]["points"], game.math.promo[4] + game.math.promo[0]);
+    EXPECT_EQ(state["rating"]["currentRating"], static_cast<int>(game.rating.currentRating));
+    EXPECT_EQ(state["rating"]["currentAverage"], static_cast<int>(game.rating.currentAverage));
+    ASSERT_EQ(state["rating"]["history"].size(), 12u);
+
+    simulator.runLine("promo dropall", 10);
+    EXPECT_EQ(game.promos.pointsNow(), 0);
+    EXPECT_GT(cap, 0);
+}

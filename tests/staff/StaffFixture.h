@@ -1,0 +1,109 @@
+#pragma once
+#include "core/Game.h"
+#include "core/LineReader.h"
+#include "staff/employeeManager.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace zorvane::test {
+
+// The staff's math, set by hand so that each test knows every number it depends on.
+inline void setStaffMath(MathVars& m) {
+    m.minwage = 5.15;
+    m.empposname = {
+        "None",          "Janitor",           "Usher",  "Concessions Clerk", "Ticket Seller",
+        "Projectionist", "Assistant Manager", "Manager"};
+    m.empposition = {0, 5.5, 6, 6.5, 7.25, 8.25, 10, 13};
+    m.empraisemonths = 12;
+    m.empraisemin = 0.25;
+    m.emptraining = 1000;
+    m.empexpsave = 700;
+    m.emprelchance = 10;
+    m.empambchance = 5;
+    m.empexpchance = 5;
+    m.empexpoverlimit = 1;
+    m.empangrynowork = 10;
+    m.empangryoverqualified = 20;
+    m.empangrynopay = 25;
+    m.empangryquit = 100;
+    m.empangrycalmdown = 2;
+    m.empprobation = 1000; // no learning or anger unless a test says so
+    m.empoverqualifiedquitchance = 20;
+    m.emphours = 16;
+    m.empvinnycost = 150;
+    m.empstatname = {"",       "Terrible", "Awful", "Poor",      "Mediocre", "Average",
+                     "Decent", "Good",     "Great", "Excellent", "Superb"};
+}
+
+// Twelve different candidates, one for each place a test may draw.
+inline std::string twelveCandidates() {
+    return "# test candidates\n"
+           "Ann Able|1|10|5\nBob Brown|2|10|5\nCy Cole|3|10|5\nDee Dunn|4|10|5\n"
+           "Eve East|5|10|5\nFay Ford|6|10|5\nGus Gray|7|10|5\nHal Hunt|1|10|6\n"
+           "Ida Irving|2|10|7\nJo Jones|3|10|8\nKay King|4|10|9\nLou Lane|5|10|4\n";
+}
+
+// A staff member as a test writes it down.
+struct Member {
+    std::string name;
+    int exp = 1;
+    int amb = 5;
+    int job = 0;
+    int rel = 10;
+    int anger = 0;
+    int daysworked = 0;
+    int daysemployed = 0;
+    bool fillingin = false;
+};
+
+inline std::string memberBlock(const Member& m) {
+    std::ostringstream s;
+    s << "<employee>\r\nname=" << m.name << "\r\nexp=" << m.exp << "\r\nrel=" << m.rel
+      << "\r\namb=" << m.amb << "\r\nanger=" << m.anger << "\r\nangerreason=\r\njob=" << m.job
+      << "\r\ndaysworked=" << m.daysworked << "\r\ndaysemployed=" << m.daysemployed
+      << "\r\nfillingin=" << (m.fillingin ? 1 : 0)
+      << "\r\nmyPicSkin=1\r\nmyPicGlasses=1\r\nmyPicHair=1\r\n</employee>\r\n";
+    return s.str();
+}
+
+// A game on an empty folder (plus a candidates' file), with the staff's math and the posts
+// set up, and no day run: each test drives exactly the operations it is about.
+class StaffTest : public ::testing::Test {
+  protected:
+    TempDir dir;
+    TestGame tg{dir.path().string()};
+    Game& g = *tg;
+    employeeManager& staff = g.employees;
+
+    void SetUp() override {
+        dir.write("employees.cfg", twelveCandidates());
+        setStaffMath(g.math);
+        staff.positionsSetup();
+        g.finances.funds = 100000;
+        tg.screen.lines.clear();
+    }
+
+    // Puts people on the staff the way a saved game does (their jobs fill the posts).
+    void setStaff(const std::vector<Member>& people) {
+        std::string text = "minWage= 5.15\r\n";
+        for (const Member& m : people)
+            text += memberBlock(m);
+        text += "</emps>\r\n";
+        std::istringstream in(text);
+        LineReader reader(in, "test");
+        staff.loadEmployees(reader);
+        tg.screen.lines.clear();
+    }
+
+    employee& emp(int n) { return staff.getEmployee(n); }
+    int holder(int p) { return staff.getPosition(p).getMyEmployee(); }
+    int logged(const std::string& line) { return tg.screen.count(line); }
+    const std::vector<std::string>& log() { return tg.screen.lines; }
+};
+
+} // namespace zorvane::test

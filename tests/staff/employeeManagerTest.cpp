@@ -1,0 +1,503 @@
+#include "StaffFixture.h"
+
+#include "core/GameError.h"
+#include "staff/staffTexts.h"
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+class ManagerTest : public StaffTest {
+  protected:
+    // Seven holders, one per post, with the given experience (default: exactly qualified).
+    std::vector<Member> fullStaff() {
+        std::vector<Member> people;
+        const char* names[] = {"Ann Able", "Bob Brown", "Cy Cole", "Dee Dunn",
+                               "Eve East", "Fay Ford",  "Gus Gray"};
+        for (int p = 1; p <= 7; ++p)
+            people.push_back({names[p - 1], p, 5, p});
+        return people;
+    }
+    // The draws that make the day's ten applicants the first ten of the twelve, in order.
+    void forceFirstTenApplicants() {
+        for (int i = 0; i < 10; ++i)
+            g.rng.force((i + 0.5) / 12);
+    }
+};
+
+double roll(int r) {
+    return (r - 1) / 100.0 + 0.001;
+}
+
+const char* vinnyLine(const std::string& post) {
+    static std::string line;
+    line = "I had to call in cousin vinny to fill the position of " + post +
+           ".  I had to pay him $150.00";
+    return line.c_str();
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- fill-ins
+
+TEST_F(ManagerTest, FillInExactPassTakesTheMostAmbitiousFirstAmongEquals) {
+    std::vector<Member> people = fullStaff();
+    people.push_back({"Hal Hunt", 3, 0});   // exact, but ambition 0 never wins
+    people.push_back({"Ida Irving", 3, 6}); // exact
+    people.push_back({"Jo Jones", 3, 6});   // exact, equal: the first keeps it
+    people.push_back({"Kay King", 4, 1});   // over, would win the second pass
+    setStaff(people);
+    EXPECT_EQ(staff.findFillIn(3, 3), 9);
+    EXPECT_EQ(emp(9).job, 3);
+    EXPECT_TRUE(emp(9).fillingin);
+    EXPECT_EQ(holder(3), 3); // the post's holder does not change
+    EXPECT_EQ(logged("Ida Irving filled in today, doing Concessions Clerk"), 1);
+}
+
+TEST_F(ManagerTest, FillInOverPassTakesTheLeastAmbitious) {
+    std::vector<Member> people = fullStaff();
+    people.push_back({"Hal Hunt", 2, 9});   // under: only the third pass
+    people.push_back({"Ida Irving", 6, 4}); // over
+    people.push_back({"Jo Jones", 9, 2});   // over, least ambitious
+    people.push_back({"Kay King", 5, 2});   // over, as unambitious but later
+    setStaff(people);
+    EXPECT_EQ(staff.findFillIn(3, 3), 10);
+}
+
+TEST_F(ManagerTest, FillInOverPassNeverTakesAmbitionOfAHundred) {
+    std::vector<Member> people = fullStaff();
+    people.push_back({"Hal Hunt", 6, 100});
+    people.push_back({"Ida Irving", 1, 1});
+    setStaff(people);
+    EXPECT_EQ(staff.findFillIn(3, 3), 9); // the under-qualified one, from the third pass
+}
+
+TEST_F(ManagerTest, FillInUnderPassTakesTheMostAmbitiousAndSkipsTheSickAndTheBusy) {
+    std::vector<Member> people = fullStaff();
+    people.push_back({"Hal Hunt", 1, 3});
+    people.push_back({"Ida Irving", 2, 7});
+    people.push_back({"Jo Jones", 2, 9, 5, 10, 0, 0, 0, true}); // filling in: not idle
+    setStaff(people);
+    EXPECT_EQ(staff.findFillIn(4, 4), 9);
+    // The sick person's own number is left out even when idle.
+    emp(9).setMyJob(0, false);
+    EXPECT_EQ(staff.findFillIn(4, 9), 8);
+}
+
+TEST_F(ManagerTest, NobodyIdleCallsCousinVinnyWhoIsPaidUnderLabor) {
+    setStaff(fullStaff());
+    g.finances.funds = 1000;
+    EXPECT_EQ(staff.findFillIn(5, 5), 0);
+    EXPECT_EQ(logged(vinnyLine("Projectionist")), 1);
+    EXPECT_EQ(g.finances.deplabor, 150);
+    // Slot 1: a second call on the same day is charged but not logged.
+    EXPECT_EQ(staff.findFillIn(6, 6), 0);
+    EXPECT_EQ(g.finances.deplabor, 300);
+    EXPECT_EQ(log().size(), 1u);
+    g.resetLogSlots(); // the next day
+    staff.findFillIn(6, 6);
+    EXPECT_EQ(logged(vinnyLine("Assistant Manager")), 1);
+}
+
+TEST_F(ManagerTest, CousinVinnyIsLoggedEvenWhenHeCannotBePaid) {
+    setStaff(fullStaff());
+    g.finances.funds = 100;
+    EXPECT_EQ(staff.findFillIn(5, 5), 0);
+    EXPECT_EQ(logged(vinnyLine("Projectionist")), 1);
+    EXPECT_EQ(g.finances.funds, 100);
+    EXPECT_EQ(g.finances.deplabor, 0);
+}
+
+TEST_F(ManagerTest, TwoSickAndOneIdle) {
+    staff.loadEmployeeDatabase();
+    std::vector<Member> people = fullStaff();
+    people[1].rel = 1; // Bob Brown, post 2
+    people[4].rel = 1; // Eve East, post 5
+    people.push_back({"Hal Hunt", 2, 5});
+    setStaff(people);
+    forceFirstTenApplicants();
+    // The sick rolls of posts 1 to 7: attendance 100 for rel 10, 10 for rel 1.
+    g.rng.force({roll(1), roll(50), roll(1), roll(1), roll(50), roll(1), roll(1)});
+    const double before = g.finances.funds;
+    staff.employeesNextDay();
+    EXPECT_EQ(g.rng.forcedLeft(), 0u);
+    EXPECT_EQ(logged("Bob Brown has called in sick today."), 1);
+    EXPECT_EQ(logged("Eve East has called in sick today."), 0); // slot 3
+    EXPECT_EQ(logged("Hal Hunt filled in today, doing Usher"), 1);
+    EXPECT_EQ(logged(vinnyLine("Projectionist")), 1);
+    EXPECT_EQ(emp(2).sickdays, 1);
+    EXPECT_EQ(emp(5).sickdays, 1);
+    EXPECT_EQ(emp(2).daysworked, 0);
+    EXPECT_EQ(emp(8).daysworked, 1);
+    EXPECT_EQ(emp(8).paid, 6 * 16);
+    EXPECT_EQ(emp(5).paid, 0);
+    // Wages of posts 1, 2 (to the stand-in), 3, 4, 6, 7 and the cousin's fee.
+    const double wages = (5.5 + 6 + 6.5 + 7.25 + 10 + 13) * 16;
+    EXPECT_DOUBLE_EQ(g.finances.deplabor, wages + 150);
+    EXPECT_DOUBLE_EQ(g.finances.funds, before - wages - 150);
+    // The stand-in is idle again after the next day's start.
+    emp(8).nextDay();
+    EXPECT_EQ(emp(8).job, 0);
+    EXPECT_EQ(holder(2), 2);
+}
+
+TEST_F(ManagerTest, NobodyIsPaidOrSickOnADayWithoutBusiness) {
+    staff.loadEmployeeDatabase();
+    std::vector<Member> people = fullStaff();
+    people.pop_back(); // post 7 open, nobody idle to fill it
+    setStaff(people);
+    forceFirstTenApplicants();
+    staff.employeesNextDay();
+    EXPECT_EQ(g.rng.forcedLeft(), 0u); // no sick rolls were made
+    EXPECT_EQ(g.finances.deplabor, 0);
+    EXPECT_EQ(logged("Cannot do business today: Not all employee positions are filled"), 1);
+    EXPECT_EQ(logged("I was unable to fill the position of Manager, you may want to consider "
+                     "highering more employees."),
+              1);
+}
+
+// ---------------------------------------------------------------- removal and renumbering
+
+TEST_F(ManagerTest, RemovalClosesUpTheListAndRenumbersThePosts) {
+    setStaff({{"Ann Able", 1, 5, 1},
+              {"Bob Brown", 2, 5, 2},
+              {"Cy Cole", 1, 5, 0},
+              {"Dee Dunn", 4, 5, 4}});
+    staff.fireEmployee(2);
+    EXPECT_EQ(logged("Bob Brown has been canned."), 1);
+    ASSERT_EQ(staff.employeeCount(), 3);
+    EXPECT_EQ(emp(2).name, "Cy Cole");
+    EXPECT_EQ(emp(3).name, "Dee Dunn");
+    for (int i = 1; i <= 3; ++i)
+        EXPECT_EQ(emp(i).num, i);
+    EXPECT_EQ(holder(1), 1);
+    EXPECT_EQ(holder(2), 0);
+    EXPECT_EQ(holder(4), 3);
+}
+
+TEST_F(ManagerTest, ANumberAboveTheCountRemovesNobodyAndOnlyRenumbers) {
+    setStaff({{"Ann Able", 1, 5, 1}, {"Bob Brown", 2, 5, 2}});
+    emp(2).num = 7;
+    staff.removeEmployee(3, "has been canned.");
+    EXPECT_EQ(staff.employeeCount(), 2);
+    EXPECT_EQ(emp(2).num, 2);
+    EXPECT_TRUE(log().empty());
+}
+
+TEST_F(ManagerTest, TheRemovedPersonKeepsTheJobAndTheDetailsPanelCloses) {
+    setStaff({{"Ann Able", 1, 5, 1}, {"Bob Brown", 2, 5, 2}});
+    const auto bob = &emp(2);
+    staff.showEmployeeDetails(2);
+    EXPECT_TRUE(staff.detailsVisible());
+    EXPECT_EQ(staff.selectedPosition(), 2);
+    staff.fireEmployee(2);
+    EXPECT_FALSE(staff.detailsVisible());
+    EXPECT_EQ(bob->job, 2);
+}
+
+TEST_F(ManagerTest, FiringAnEmptyStaffDoesNothing) {
+    staff.fireEmployee(1);
+    EXPECT_TRUE(log().empty());
+    EXPECT_EQ(staff.employeeCount(), 0);
+}
+
+TEST_F(ManagerTest, WhoQuitsTakesHisPlaceFromTheNextPersonsDay) {
+    g.math.empangrycalmdown = 1;
+    setStaff({{"Ann Able", 1, 5, 1, 10, 101, 0, 5},
+              {"Bob Brown", 2, 5, 2, 10, 50, 0, 5},
+              {"Cy Cole", 3, 5, 3, 10, 50, 0, 5}});
+    staff.loadEmployeeDatabase();
+    forceFirstTenApplicants();
+    staff.employeesNextDay();
+    EXPECT_EQ(logged("Ann Able  quit saying 'I'm fed up with this job!!'"), 1);
+    ASSERT_EQ(staff.employeeCount(), 2);
+    EXPECT_EQ(emp(1).name, "Bob Brown");
+    EXPECT_EQ(emp(1).daysemployed, 5); // took place 1 after its turn: missed the day
+    EXPECT_EQ(emp(2).daysemployed, 6);
+}
+
+TEST_F(ManagerTest, AStaffMemberDrawnAsApplicantOnTheDayHeQuitsRemovesTheWrongPerson) {
+    staff.loadEmployeeDatabase();
+    forceFirstTenApplicants();
+    staff.newCandidates();
+    staff.hireEmployee(1); // Ann Able, straight into post 1
+    staff.hireEmployee(1); // Bob Brown, into post 2
+    ASSERT_EQ(staff.employeeCount(), 2);
+    emp(2).anger = 200;
+    // The next morning Bob is drawn first: his number becomes 1 until the grid renumbers.
+    g.rng.force(1.5 / 12);
+    for (int i : {0, 2, 3, 4, 5, 6, 7, 8, 9})
+        g.rng.force((i + 0.5) / 12);
+    staff.employeesNextDay();
+    EXPECT_EQ(logged("Ann Able  quit saying 'I'm fed up with this job!!'"), 1);
+    ASSERT_EQ(staff.employeeCount(), 1);
+    EXPECT_EQ(emp(1).name, "Bob Brown");
+    EXPECT_EQ(emp(1).num, 1);
+}
+
+// ---------------------------------------------------------------- assignment
+
+TEST_F(ManagerTest, APersonRefusesToStepDownBelowHisLevel) {
+    setStaff({{"Ann Able", 5, 5, 5}, {"Bob Brown", 5, 5, 0}, {"Cy Cole", 7, 5, 7}});
+    staff.assignEmployee(1, 3);
+    EXPECT_EQ(logged("Ann Able: I'm too experienced for that position! No way!"), 1);
+    EXPECT_EQ(emp(1).job, 5);
+    EXPECT_EQ(holder(5), 1);
+    EXPECT_EQ(holder(3), 0);
+    staff.assignEmployee(2, 3); // an idle person takes any post
+    EXPECT_EQ(emp(2).job, 3);
+    EXPECT_EQ(holder(3), 2);
+    staff.assignEmployee(3, 6); // 6 is below exp 7 and job 7: refused
+    EXPECT_EQ(emp(3).job, 7);
+    EXPECT_EQ(logged("Cy Cole: I'm too experienced for that position! No way!"), 1);
+}
+
+TEST_F(ManagerTest, MovingUpOrSidewaysLeavesTheOldPostAndBumpsTheHolder) {
+    setStaff({{"Ann Able", 5, 5, 4}, {"Bob Brown", 6, 5, 6}});
+    staff.assignEmployee(1, 6); // up: Bob is bumped to idle
+    EXPECT_EQ(holder(6), 1);
+    EXPECT_EQ(holder(4), 0);
+    EXPECT_EQ(emp(1).job, 6);
+    EXPECT_EQ(emp(2).job, 0);
+    staff.assignEmployee(1, 5); // back down to exactly the level: allowed
+    EXPECT_EQ(holder(5), 1);
+    EXPECT_EQ(holder(6), 0);
+    EXPECT_TRUE(log().empty());
+}
+
+TEST_F(ManagerTest, PostZeroTakesTheSelectedEntryOfThePositionList) {
+    setStaff({{"Ann Able", 5, 5, 5}, {"Bob Brown", 3, 5, 0}});
+    staff.selectPosition(0); // "0-None"
+    staff.assignEmployee(1, 0);
+    EXPECT_EQ(emp(1).job, 0);
+    EXPECT_EQ(holder(5), 0);
+    staff.selectPosition(2);
+    staff.assignEmployee(2, 0);
+    EXPECT_EQ(emp(2).job, 2);
+    EXPECT_EQ(holder(2), 2);
+    EXPECT_THROW(staff.assignEmployee(3, 4), GameError);
+    EXPECT_THROW(staff.selectPosition(8), GameError);
+}
+
+// ---------------------------------------------------------------- filling open posts
+
+TEST_F(ManagerTest, FillPositionPromotesAQualifiedHolderFromALowerPost) {
+    setStaff({{"Ann Able", 5, 3, 2}, {"Bob Brown", 6, 9, 0}, {"Cy Cole", 6, 4, 3}});
+    staff.fillPosition(5);
+    // Pass 1: Ann (exp 5 > job 2, >= 5) and Cy (amb 4) qualify; Cy is more ambitious.
+    EXPECT_EQ(holder(5), 3);
+    EXPECT_EQ(holder(3), 0); // the lower post waits for the next walk
+    EXPECT_EQ(logged("Cy Cole has been promoted to position: Projectionist"), 1);
+}
+
+TEST_F(ManagerTest, FillPositionThenTakesIdleQualifiedThenAnyIdle) {
+    setStaff({{"Ann Able", 2, 9, 0}, {"Bob Brown", 6, 1, 0}, {"Cy Cole", 1, 9, 0}});
+    staff.fillPosition(5);
+    EXPECT_EQ(holder(5), 2); // qualified beats more ambitious
+    staff.fillPosition(7);
+    EXPECT_EQ(holder(7), 1); // nobody qualified: the first of the most ambitious idle
+    EXPECT_EQ(logged("Ann Able has been promoted to position: Manager"), 1);
+}
+
+TEST_F(ManagerTest, FillPositionPassesOverAmbitionZeroAndSaysSoOnceADay) {
+    setStaff({{"Ann Able", 2, 0, 0}});
+    staff.fillPosition(1);
+    staff.fillPosition(2);
+    EXPECT_EQ(holder(1), 0);
+    EXPECT_EQ(log().size(), 1u);
+    EXPECT_EQ(logged("I was unable to fill the position of Janitor, you may want to consider "
+                     "highering more employees."),
+              1);
+}
+
+TEST_F(ManagerTest, FillVacanciesFillsOnlyPostsAtExactlyZero) {
+    setStaff({{"Ann Able", 2, 5, 0}, {"Bob Brown", 3, 5, 0}});
+    staff.getPosition(1).setMyEmployee(9); // a stale number: vacant to readers, not filled
+    staff.fillVacancies();
+    EXPECT_EQ(holder(1), 9);
+    EXPECT_EQ(holder(2), 1); // both qualify with equal ambition: the first wins
+    EXPECT_EQ(holder(3), 2);
+    EXPECT_EQ(holder(4), 0); // nobody idle was left
+}
+
+// ---------------------------------------------------------------- hiring
+
+TEST_F(ManagerTest, TheDaysApplicantsAreTenDifferentNamesNumberedByRow) {
+    staff.loadEmployeeDatabase();
+    g.rng.force({0.5 / 12, 0.5 / 12, 1.5 / 12}); // the second draw repeats a name
+    for (int i = 2; i < 10; ++i)
+        g.rng.force((i + 0.5) / 12);
+    staff.newCandidates();
+    EXPECT_EQ(g.rng.forcedLeft(), 0u);
+    ASSERT_EQ(staff.candidateCount(), 10);
+    EXPECT_EQ(staff.getCandidate(1).name, "Ann Able");
+    EXPECT_EQ(staff.getCandidate(2).name, "Bob Brown");
+    for (int r = 1; r <= 10; ++r)
+        EXPECT_EQ(staff.getCandidate(r).num, r);
+    EXPECT_EQ(staff.getCandidate(1).trainingcost, 900); // shown, so fixed
+}
+
+TEST_F(ManagerTest, AnEmptyPoolIsABoundsError) {
+    try {
+        staff.newCandidates();
+        FAIL();
+    } catch (const GameError& e) {
+        EXPECT_EQ(e.kind(), GameError::Kind::Bounds);
+    }
+}
+
+TEST_F(ManagerTest, AHireGoesStraightIntoTheOpenPostOfItsLevel) {
+    staff.loadEmployeeDatabase();
+    forceFirstTenApplicants();
+    staff.newCandidates();
+    g.finances.funds = 5000;
+    staff.hireEmployee(3); // Cy Cole, exp 3, 1000 - 300 = 700
+    EXPECT_EQ(logged("Cy Cole is a new member of the team."), 1);
+    EXPECT_EQ(g.finances.funds, 4300);
+    EXPECT_EQ(g.finances.deplabor, 700);
+    EXPECT_EQ(holder(3), 1);
+    EXPECT_EQ(emp(1).job, 3);
+    ASSERT_EQ(staff.candidateCount(), 9);
+    EXPECT_EQ(staff.getCandidate(3).name, "Dee Dunn");
+    EXPECT_EQ(staff.getCandidate(3).num, 3);
+    staff.hireEmployee(9); // Jo Jones, exp 3 too: post taken, starts idle
+    EXPECT_EQ(emp(2).name, "Jo Jones");
+    EXPECT_EQ(emp(2).job, 0);
+    EXPECT_EQ(emp(2).num, 2);
+    EXPECT_EQ(holder(3), 1);
+}
+
+TEST_F(ManagerTest, AHireThatCannotBePaidLeavesTheApplicantInTheTable) {
+    staff.loadEmployeeDatabase();
+    forceFirstTenApplicants();
+    staff.newCandidates();
+    g.finances.funds = 500;
+    staff.hireEmployee(1);
+    EXPECT_EQ(logged("You cannot afford to train this employee!  You need to take out a loan if "
+                     "you want to stay in business!!"),
+              1);
+    EXPECT_EQ(staff.employeeCount(), 0);
+    EXPECT_EQ(staff.candidateCount(), 10);
+    EXPECT_THROW(staff.hireEmployee(11), GameError);
+}
+
+// ---------------------------------------------------------------- the month
+
+TEST_F(ManagerTest, AMonthWithoutStaffIsNotCounted) {
+    staff.employeesNextMonth();
+    EXPECT_EQ(staff.monthsSinceRaise, 0);
+}
+
+TEST_F(ManagerTest, WagesRiseTogetherEveryRaisePeriodAndKeepTheirDistance) {
+    setStaff({{"Ann Able", 1, 5, 1}});
+    staff.getPosition(3).setWage(5.15); // at the minimum
+    tg.screen.lines.clear();
+    for (int m = 1; m <= 11; ++m)
+        staff.employeesNextMonth();
+    EXPECT_EQ(staff.monthsSinceRaise, 11);
+    EXPECT_EQ(emp(1).seniority, 11);
+    EXPECT_EQ(staff.getMinWage(), 5.15);
+    staff.employeesNextMonth();
+    EXPECT_EQ(staff.monthsSinceRaise, 0);
+    EXPECT_DOUBLE_EQ(staff.getMinWage(), 5.40);
+    EXPECT_DOUBLE_EQ(staff.getPosition(3).getWage(), 5.40);
+    EXPECT_DOUBLE_EQ(staff.getPosition(7).getWage(), 13.25);
+    EXPECT_EQ(logged("Wages just went up another $0.25"), 1);
+    EXPECT_EQ(logged("Cannot set wage below minimum wage, so set wage to minimum instead."), 0);
+    EXPECT_EQ(log().size(), 1u);
+}
+
+// ---------------------------------------------------------------- averages
+
+TEST_F(ManagerTest, AverageAngerCountsAVacantPostAsTheQuitPoint) {
+    setStaff({{"Ann Able", 1, 5, 1, 10, 10}, {"Bob Brown", 2, 5, 2, 10, 4}});
+    // (10 + 4 + 5 * 100) / 7 = 73.4
+    EXPECT_EQ(staff.getAverageAnger(), 73);
+    staff.getPosition(3).setMyEmployee(5); // not a valid number: vacant
+    EXPECT_EQ(staff.getAverageAnger(), 73);
+    EXPECT_EQ(staff.getAverageAmbition(), 0);
+    EXPECT_DOUBLE_EQ(staff.getAverageWage(), (5.5 + 6 + 6.5 + 7.25 + 8.25 + 10 + 13) / 7);
+}
+
+// ---------------------------------------------------------------- the screen's texts
+
+TEST_F(ManagerTest, VinnysFeeIsPrintedWithCentsAndNoLeadingZero) {
+    EXPECT_EQ(vinnyMoney(150), "$150.00");
+    EXPECT_EQ(vinnyMoney(0.5), "$.50");
+    EXPECT_EQ(vinnyMoney(1234567.5), "$1,234,567.50");
+    EXPECT_EQ(vinnyMoney(0), "$.00");
+}
+
+TEST_F(ManagerTest, TheChartShowsHoldersAndTotals) {
+    setStaff({{"Ann Able", 2, 5, 1}, {"Bob Brown", 2, 5, 2}, {"Cy Cole", 2, 5, 3}});
+    emp(1).sickdays = 2;
+    emp(1).paid = 1500;
+    emp(1).seniority = 4;
+    emp(3).paid = 2500;
+    const PositionChart c = positionChart(staff);
+    EXPECT_EQ(c.rows[0].position, "Janitor");
+    EXPECT_EQ(c.rows[0].employee, "Ann Able");
+    EXPECT_EQ(c.rows[0].payRate, "$5.50/hr");
+    EXPECT_EQ(c.rows[0].seniority, "4 mo.");
+    EXPECT_EQ(c.rows[0].experience, "Over");
+    EXPECT_EQ(c.rows[0].experienceTip, "This employee is over qualified for this position");
+    EXPECT_EQ(c.rows[1].experience, "Okay");
+    EXPECT_EQ(c.rows[2].experience, "Under");
+    EXPECT_EQ(c.rows[0].paid, "$1.5k");
+    EXPECT_EQ(c.rows[3].employee, "(Position not filled)");
+    EXPECT_EQ(c.rows[3].seniority, "0 mo.");
+    EXPECT_EQ(c.rows[3].experience, "None");
+    EXPECT_EQ(c.rows[3].paid, "$0");
+    EXPECT_EQ(c.minWage, "$5.15/hr");
+    EXPECT_EQ(c.totalPayRate, "$56.50/hr");
+    EXPECT_EQ(c.totalSick, "2");
+    EXPECT_EQ(c.totalPaid, "$4k");
+}
+
+TEST_F(ManagerTest, TheGridHasAHeaderAndOneRowAPerson) {
+    setStaff({{"Ann Able", 9, 7, 7, 3, 12}});
+    const auto rows = employeeGridRows(staff);
+    ASSERT_EQ(rows.size(), 2u);
+    EXPECT_EQ(rows[0][6], "Senority");
+    const GridRow expected{"Ann Able", "12", "7-Manager", "9-Manager", "3",
+                           "7",        "0",  "0",         "0",         "$0"};
+    EXPECT_EQ(rows[1], expected);
+}
+
+TEST_F(ManagerTest, TheHireTableMarksApplicantsForOpenPosts) {
+    staff.loadEmployeeDatabase();
+    forceFirstTenApplicants();
+    staff.newCandidates();
+    staff.hireEmployee(1); // Ann into post 1
+    const auto rows = hireTableRows(staff);
+    EXPECT_EQ(rows[0].name, "Bob Brown");
+    EXPECT_EQ(rows[0].exp, "2-Usher");
+    EXPECT_TRUE(rows[0].openPost);
+    EXPECT_EQ(rows[0].rel, "10-Superb");
+    EXPECT_EQ(rows[0].amb, "5-Average");
+    EXPECT_EQ(rows[0].train, "$800");
+    EXPECT_FALSE(rows[6].openPost); // Hal Hunt, exp 1: post 1 is Ann's
+    EXPECT_TRUE(rows[8].button);
+    EXPECT_FALSE(rows[9].button);
+    EXPECT_EQ(rows[9].name, "");
+}
+
+TEST_F(ManagerTest, TheDetailsPanelShowsThePersonsTexts) {
+    setStaff({{"Ann Able", 3, 4, 2, 6, 5}});
+    emp(1).angerreason = "Content";
+    emp(1).paid = 96;
+    staff.showEmployeeDetails(1);
+    const EmployeeDetails d = employeeDetails(staff);
+    EXPECT_TRUE(d.visible);
+    EXPECT_EQ(d.number, "1");
+    EXPECT_EQ(d.name, "Ann Able");
+    EXPECT_EQ(d.exp, "3-Concessions Clerk");
+    EXPECT_EQ(d.rel, "6-Decent");
+    EXPECT_EQ(d.amb, "4-Mediocre");
+    EXPECT_EQ(d.job, "2-Usher");
+    EXPECT_EQ(d.positionEntry, 2);
+    EXPECT_EQ(d.totalPaid, "$96");
+    EXPECT_EQ(d.angerLevel, "(5/100)-Content");
+    EXPECT_EQ(fireQuestion(d.name), "Are you sure you want to fire Ann Able?");
+}
