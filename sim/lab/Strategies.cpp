@@ -2,21 +2,15 @@
 
 namespace zorvane::lab {
 
-namespace {
+std::vector<std::string> strategyNames() { return {"idle", "advisor", "random"}; }
 
-// Does nothing after "Play !": the theater nobody runs.
-class IdleStrategy : public Strategy {
-public:
-    void beforeDay(Game&) override {}
-};
-
-} // namespace
-
-std::vector<std::string> strategyNames() { return {"idle"}; }
-
-std::unique_ptr<Strategy> makeStrategy(const std::string& name) {
+std::unique_ptr<Strategy> makeStrategy(const std::string& name, std::uint64_t seed) {
     if (name == "idle")
-        return std::make_unique<IdleStrategy>();
+        return makeIdleStrategy();
+    if (name == "advisor")
+        return makeAdvisorStrategy();
+    if (name == "random")
+        return makeRandomStrategy(seed);
     return nullptr;
 }
 

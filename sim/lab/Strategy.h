@@ -1,6 +1,7 @@
 #pragma once
 #include "core/Game.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,7 +21,14 @@ public:
 
 // The names `--lab` accepts.
 std::vector<std::string> strategyNames();
-// A fresh strategy of that name (each game gets its own); null for an unknown name.
-std::unique_ptr<Strategy> makeStrategy(const std::string& name);
+// A fresh strategy of that name (each game gets its own); null for an unknown name. A
+// strategy that rolls dice seeds its own generator from `seed`, the game's seed, so that a
+// lab game replays exactly without taking a single roll from the game's generator.
+std::unique_ptr<Strategy> makeStrategy(const std::string& name, std::uint64_t seed = 0);
+
+// The strategies, one file each.
+std::unique_ptr<Strategy> makeIdleStrategy();
+std::unique_ptr<Strategy> makeAdvisorStrategy();
+std::unique_ptr<Strategy> makeRandomStrategy(std::uint64_t seed);
 
 } // namespace zorvane::lab

@@ -55,13 +55,13 @@ goal& goalManager::goalAt(int index) {
     return goals[checkedGoalIndex(index, goals.size())];
 }
 
-// Picking a goal in the list makes it the selected one and shows its description.
+// Picking a goal in the list makes it the selected one and shows its description. A list
+// with no line picked (-1) selects nothing, so "Play !" then keeps the goal in force.
 void goalManager::selectGoal(int index) {
-    if (index > lastGoal)
+    if (index < 0 || index > lastGoal)
         return;
-    goal& picked = goalAt(index);
     selectedGoal = index;
-    picked.showDetails(game_);
+    goalAt(index).showDetails(game_);
 }
 
 // "Play !" applies the starting figures of the goal at the list index (-1, no selection,

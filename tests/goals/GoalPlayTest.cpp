@@ -285,7 +285,9 @@ TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
     goals().selectGoal(3); // beyond the list: nothing
     EXPECT_EQ(goals().getSelected(), 2);
     EXPECT_EQ(screen().details.size(), 1u);
-    EXPECT_THROW(goals().selectGoal(-1), GameError);
+    goals().selectGoal(-1); // no line picked: nothing
+    EXPECT_EQ(goals().getSelected(), 2);
+    EXPECT_EQ(screen().details.size(), 1u);
 
     game().finances.setFunds(5);
     goals().startGoal(-1); // no list selection
@@ -294,6 +296,14 @@ TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
     goals().startGoal(1); // the list index counts, not the selection
     EXPECT_EQ(game().finances.getFunds(), 11111);
     EXPECT_EQ(goals().getSelected(), 2);
+}
+
+TEST_F(GoalPlay, PlayWithNoLineSelectedKeepsTheGoalInForce) {
+    useGoals(goalBlock("name=One\r\nfunds=11111\r\n"));
+    game().finances.setFunds(5);
+    game().startPlay(-1);
+    EXPECT_EQ(goals().getSelected(), 0);
+    EXPECT_EQ(game().finances.getFunds(), 5);
 }
 
 TEST_F(GoalPlay, TheGoalMenuShowsTheTitleThenTheDetails) {
