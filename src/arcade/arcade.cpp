@@ -80,10 +80,20 @@ void arcade::init(int number, const std::string& name) {
 bool arcade::play(int playsSoFar) {
     if (IamBroke)
         return false;
-    const MathVars& m = game_->math;
+    return play(playTerms(), playsSoFar);
+}
+
+arcade::PlayTerms arcade::playTerms() const {
     const double price = playPrice(*game_, PricePerPlay);
-    const int base = floorInt16(Pop - m.arcadeplaychancepricemod * price);
-    const int chance = sub16(base, mul16(playsSoFar, m.arcadeplaychanceplayedmod));
+    return {price, floorInt16(Pop - game_->math.arcadeplaychancepricemod * price)};
+}
+
+bool arcade::play(const PlayTerms& terms, int playsSoFar) {
+    if (IamBroke)
+        return false;
+    const double price = terms.price;
+    const int chance =
+        sub16(terms.baseChance, mul16(playsSoFar, game_->math.arcadeplaychanceplayedmod));
     if (game_->rng.percentRoll() > chance)
         return false;
     game_->finances.earn(price, "arcade");

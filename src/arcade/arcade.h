@@ -36,6 +36,15 @@ class arcade {
 
     // One arcade visitor meets this machine; `playsSoFar` counts the plays of the whole crowd.
     bool play(int playsSoFar);
+
+    // What a play costs and the machine's chance before the crowd's plays are counted: fixed
+    // while one crowd plays, so the room works them out once per crowd.
+    struct PlayTerms {
+        double price = 0;
+        int baseChance = 0;
+    };
+    PlayTerms playTerms() const;
+    bool play(const PlayTerms& terms, int playsSoFar);
     void setOriginalPurchasePrice(double dollars) { OriginalPrice = dollars; }
     bool getIamBroke() const { return IamBroke; }
     void setTitleColor();

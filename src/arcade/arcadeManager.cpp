@@ -260,10 +260,15 @@ void arcadeManager::doArcadeBusiness(int count) {
     const int visitors = toInt16(getPercent(0, count, game_.math.percentarcade));
     if (visitors < 1)
         return;
+    // No machine comes or goes while the crowd plays, and a machine's price and popularity
+    // stay put, so each machine's terms are worked out once for the whole crowd.
+    playTerms_.clear();
+    for (const auto& machine : myGames)
+        playTerms_.push_back(machine->getIamBroke() ? arcade::PlayTerms{} : machine->playTerms());
     Int16 plays{0};
     for (int visitor = 1; visitor <= visitors; ++visitor)
-        for (int n = 1; n <= getMachineCount(); ++n)
-            if (myGameAt(n).play(plays))
+        for (std::size_t i = 0; i < myGames.size(); ++i)
+            if (myGames[i]->play(playTerms_[i], plays))
                 ++plays;
 }
 

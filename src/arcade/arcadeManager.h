@@ -104,6 +104,7 @@ class arcadeManager {
 
     Game& game_;
     bool autoRepair_ = false;
+    std::vector<arcade::PlayTerms> playTerms_; // reused by every crowd
 };
 
 } // namespace zorvane

@@ -18,19 +18,19 @@ std::string describe(double value) {
     return buf;
 }
 
-[[noreturn]] void overflow(double value, const char* into) {
-    throw GameError(GameError::Kind::Overflow,
-                    "overflow: " + describe(value) + " does not fit " + into);
-}
-
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 } // namespace
 
+void throwOverflow(double value, const char* into) {
+    throw GameError(GameError::Kind::Overflow,
+                    "overflow: " + describe(value) + " does not fit " + into);
+}
+
 double roundHalfEven(double value) {
     // nearbyint follows the current rounding mode, which is round-to-nearest-even unless
     // somebody changed it; do it by hand so the rule cannot depend on the environment.
-    const double fl = std::floor(value);
+    const double fl = Int(value);
     const double diff = value - fl;
     if (diff < 0.5)
         return fl;
@@ -39,45 +39,24 @@ double roundHalfEven(double value) {
     return std::fmod(fl, 2.0) == 0.0 ? fl : fl + 1.0;
 }
 
-std::int16_t toInt16(double value) {
-    const double r = roundHalfEven(value);
-    if (!(r >= -32768.0 && r <= 32767.0))
-        overflow(value, "a 16-bit integer");
-    return static_cast<std::int16_t>(r);
-}
 
 std::int32_t toInt32(double value) {
     const double r = roundHalfEven(value);
     if (!(r >= -2147483648.0 && r <= 2147483647.0))
-        overflow(value, "a 32-bit integer");
+        throwOverflow(value, "a 32-bit integer");
     return static_cast<std::int32_t>(r);
 }
 
-std::int16_t floorInt16(double value) {
-    const double r = std::floor(value);
-    if (!(r >= -32768.0 && r <= 32767.0))
-        overflow(value, "a 16-bit integer");
-    return static_cast<std::int16_t>(r);
-}
 
 std::int32_t floorInt32(double value) {
-    const double r = std::floor(value);
+    const double r = Int(value);
     if (!(r >= -2147483648.0 && r <= 2147483647.0))
-        overflow(value, "a 32-bit integer");
+        throwOverflow(value, "a 32-bit integer");
     return static_cast<std::int32_t>(r);
 }
 
-double Int(double value) { return std::floor(value); }
 
-std::int16_t checkedInt16(long long value) {
-    if (value < -32768 || value > 32767)
-        overflow(static_cast<double>(value), "a 16-bit integer");
-    return static_cast<std::int16_t>(value);
-}
 
-std::int16_t add16(int a, int b) { return checkedInt16(static_cast<long long>(a) + b); }
-std::int16_t sub16(int a, int b) { return checkedInt16(static_cast<long long>(a) - b); }
-std::int16_t mul16(int a, int b) { return checkedInt16(static_cast<long long>(a) * b); }
 
 // Scans the longest number at the start of `text` (after blanks): sign, digits, an optional
 // point with digits, an optional exponent. Returns the characters used, 0 if none.

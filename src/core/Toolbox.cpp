@@ -42,6 +42,7 @@ std::string toLower(std::string_view text) {
     return out;
 }
 
+
 namespace {
 
 // The value read back from its 15-significant-digit text, as the game compares amounts.

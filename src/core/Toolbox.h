@@ -11,6 +11,23 @@ std::string digitsOnly(std::string_view text);   // only "0"-"9" and "." survive
 double digitsValue(std::string_view text);        // what a player typed in a money box
 std::string trimRight(std::string_view text);    // trailing blanks (code 32) removed
 std::string toLower(std::string_view text);
+// Equal but for the case of ASCII letters.
+inline bool sameText(std::string_view a, std::string_view b) {
+    if (a.size() != b.size())
+        return false;
+    if (a == b)
+        return true;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        char x = a[i], y = b[i];
+        if (x >= 'A' && x <= 'Z')
+            x = static_cast<char>(x - 'A' + 'a');
+        if (y >= 'A' && y <= 'Z')
+            y = static_cast<char>(y - 'A' + 'a');
+        if (x != y)
+            return false;
+    }
+    return true;
+}
 
 std::string formatMoney(double value);      // $1,500 or $1,500.50
 std::string formatMoneyShort(double value); // $999.99, $2k, $2.35k

@@ -12,40 +12,49 @@ void Finances::setFunds(double amount) {
     game_.screen().refresh(View::Finances);
 }
 
-bool Finances::spend(double amount, const std::string& department) {
+bool Finances::spend(double amount, std::string_view department) {
     if (funds - amount < 1) {
         game_.screen().refresh(View::Finances);
         return false;
     }
     setFunds(funds - amount);
-    const std::string word = toLower(department);
-    if (word == "promotions")
+    if (sameText(department, "promotions"))
         deppromo += amount;
-    else if (word == "labor")
+    else if (sameText(department, "labor"))
         deplabor += amount;
-    else if (word == "movie")
+    else if (sameText(department, "movie"))
         depmovie += amount;
-    else if (word == "arcades")
+    else if (sameText(department, "arcades"))
         deparcade += amount;
-    else if (word == "concessions")
+    else if (sameText(department, "concessions"))
         depconcessions += amount;
-    else if (word == "loan")
+    else if (sameText(department, "loan"))
         deploan += amount;
     totalspent += amount;
     game_.screen().refresh(View::Finances);
     return true;
 }
 
-void Finances::earn(double amount, const std::string& department) {
+void Finances::earn(double amount, std::string_view department) {
     setFunds(funds + amount);
     totalincome += amount;
-    const std::string word = toLower(department);
-    if (word == "movie")
-        incdepmovie += amount;
-    else if (word == "arcade")
-        incdeparcade += amount;
-    else if (word == "concessions")
-        incdepconcessions += amount;
+    // Picked by length first: earn runs for every play and every snack sold.
+    switch (department.size()) {
+    case 5:
+        if (sameText(department, "movie"))
+            incdepmovie += amount;
+        break;
+    case 6:
+        if (sameText(department, "arcade"))
+            incdeparcade += amount;
+        break;
+    case 11:
+        if (sameText(department, "concessions"))
+            incdepconcessions += amount;
+        break;
+    default:
+        break;
+    }
     game_.screen().refresh(View::Finances);
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace zorvane {
 
@@ -34,8 +35,8 @@ public:
     void setFunds(double amount);
     double getFunds() const { return funds; }
     // Pays, or refuses (false, nothing changes) when less than 1 would remain.
-    bool spend(double amount, const std::string& department);
-    void earn(double amount, const std::string& department);
+    bool spend(double amount, std::string_view department);
+    void earn(double amount, std::string_view department);
     void financesNextMonth(int month);
     double getHistFunds(int index) const;
     std::string getProfit() const;

@@ -5,6 +5,8 @@
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
 
+#include <cmath>
+
 namespace zorvane {
 
 namespace {
@@ -77,7 +79,11 @@ bool Movie::isDropDay() const {
         return false;
     if (every == 1)
         return true;
+    // A whole day count (the usual case) divides evenly exactly when the remainder is 0;
+    // only a fractional count from an edited save needs the comparison through the text.
     const double quotient = Days / every;
+    if (Days == Int(Days) && quotient >= -32768 && quotient < 32768)
+        return static_cast<long long>(Days) % every == 0;
     return floorInt16(quotient) == leadingNumber(numberText(quotient));
 }
 

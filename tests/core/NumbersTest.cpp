@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace zorvane;
 
 TEST(Numbers, StoringRoundsHalfToEven) {
