@@ -211,13 +211,8 @@ void buildingManager::saveBuilding(LineWriter& out) const {
 // "IamBroken"), so both keep the running game's values. A house broken at that point breaks
 // down again on the load.
 void buildingManager::loadBuilding(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [this](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         const double v = leadingNumber(value);
         if (key == "condition")
             condition = toInt16(v);
@@ -235,7 +230,7 @@ void buildingManager::loadBuilding(LineReader& in) {
             seating = toInt16(v);
         else if (key == "IamBroken") // never matches: the key is lower case
             IamBroken = (v == 1);
-    }
+    });
     showBuilding();
     if (IamBroken) {
         breakDown();

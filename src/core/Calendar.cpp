@@ -120,12 +120,8 @@ void Calendar::saveCalendar(LineWriter& out) const {
 }
 
 void Calendar::loadCalendar(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(toLower(line), key, value))
-            continue;
+    readSection(in, [this](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         const int n = toInt16(leadingNumber(value));
         if (key == "currentday")
             currentday = n;
@@ -137,7 +133,7 @@ void Calendar::loadCalendar(LineReader& in) {
             currentyear = n;
         else if (key == "onedayclose")
             onedayclose = (n == 1);
-    }
+    });
     refreshCalendar();
 }
 

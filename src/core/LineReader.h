@@ -42,4 +42,16 @@ private:
 // (a key must have at least one character), as every section reader requires.
 bool splitKeyValue(const std::string& line, std::string& key, std::string& value);
 
+// Reads a saved-game section's lines up to and including its closing line (the first that
+// begins with "</"), handing each "key=value" line to `entry`; other lines are skipped.
+template <typename Entry> void readSection(LineReader& in, Entry&& entry) {
+    std::string line, key, value;
+    while (in.readLine(line)) {
+        if (line.rfind("</", 0) == 0)
+            return;
+        if (splitKeyValue(line, key, value))
+            entry(key, value);
+    }
+}
+
 } // namespace zorvane

@@ -95,12 +95,7 @@ void Finances::saveFinances(LineWriter& out) const {
 }
 
 void Finances::loadFinances(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
+    readSection(in, [this, &in](const std::string& key, const std::string& value) {
         // Unlike the other sections, keys are case sensitive here.
         const double v = leadingNumber(value);
         if (key.compare(0, 9, "histfunds") == 0) {
@@ -137,7 +132,7 @@ void Finances::loadFinances(LineReader& in) {
         } else if (key == "incdepconcessions") {
             incdepconcessions = v;
         }
-    }
+    });
     game_.screen().refresh(View::Finances);
 }
 

@@ -271,13 +271,8 @@ void loanManager::saveLoans(LineWriter& out) const {
 
 // The missed payments in a row are not in the file: a load leaves them as they were.
 void loanManager::loadLoans(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [this](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         const double v = leadingNumber(value);
         if (key == "interestrate")
             interestRate = round2(v);
@@ -293,7 +288,7 @@ void loanManager::loadLoans(LineReader& in) {
             monthlyPayment = v;
         else if (key == "loanamount")
             loanAmount = v;
-    }
+    });
     refreshCredit();
 }
 

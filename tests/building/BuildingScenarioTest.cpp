@@ -1,4 +1,5 @@
 #include "Simulator.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -12,35 +13,8 @@ using nlohmann::json;
 
 namespace {
 
-// A whole game on the shipped data, driven by script lines as zorvane-sim runs them.
-struct BuildingScenario : ::testing::Test {
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> simulator;
-    int lineNumber = 0;
-
-    void start() {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 5;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
-    }
-    void run(const std::string& line) { simulator->runLine(line, ++lineNumber); }
-    json state() {
-        out.str("");
-        run("state");
-        return json::parse(out.str());
-    }
-    std::string log() {
-        out.str("");
-        run("log");
-        return out.str();
-    }
-    static bool has(const std::string& text, const std::string& line) {
-        return text.find(line) != std::string::npos;
-    }
+struct BuildingScenario : SimScenario {
+    void start() { SimScenario::start(5); }
 };
 
 } // namespace

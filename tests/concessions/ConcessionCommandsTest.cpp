@@ -1,4 +1,5 @@
 #include "Simulator.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -11,21 +12,9 @@ using namespace zorvane::test;
 
 namespace {
 
-struct StandScript : ::testing::Test {
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> simulator;
-
-    void SetUp() override {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 3;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
-    }
-    void run(const std::string& line) { simulator->runLine(line, 1); }
-    Concession& item(int i) { return simulator->game().concessions.item(i); }
+struct StandScript : SimScenario {
+    void SetUp() override { start(3); }
+    Concession& item(int i) { return game().concessions.item(i); }
 };
 
 } // namespace

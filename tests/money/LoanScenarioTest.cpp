@@ -1,4 +1,5 @@
 #include "Simulator.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -12,38 +13,8 @@ using nlohmann::json;
 
 namespace {
 
-// A whole game on the shipped data, driven by script lines as zorvane-sim runs them.
-struct LoanScenario : ::testing::Test {
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> simulator;
-    int lineNumber = 0;
-
-    void start() {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 11;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
-    }
-    void run(const std::string& line) { simulator->runLine(line, ++lineNumber); }
-    json state() {
-        out.str("");
-        run("state");
-        return json::parse(out.str());
-    }
-    std::string log() {
-        out.str("");
-        run("log");
-        return out.str();
-    }
-    static int count(const std::string& text, const std::string& line) {
-        int n = 0;
-        for (std::size_t p = text.find(line); p != std::string::npos; p = text.find(line, p + 1))
-            ++n;
-        return n;
-    }
+struct LoanScenario : SimScenario {
+    void start() { SimScenario::start(11); }
 };
 
 } // namespace

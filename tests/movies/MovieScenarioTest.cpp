@@ -1,5 +1,6 @@
 #include "Simulator.h"
 #include "StateJson.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include "core/GameError.h"
@@ -14,25 +15,13 @@ using namespace zorvane::test;
 
 namespace {
 
-// A game after the whole start-up and "Play !", driven through the simulator's commands.
-struct MovieScript : ::testing::Test {
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> simulator;
-
+struct MovieScript : SimScenario {
     void SetUp() override {
         data.setMath({{"moviepopdropdays", "1"}});
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 5;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
+        start(5);
     }
-    void run(const std::string& line) { simulator->runLine(line, 1); }
-    Game& g() { return simulator->game(); }
+    Game& g() { return game(); }
     MovieManager& mm() { return g().movies; }
-    nlohmann::json state() { return sim::gameState(g()); }
 };
 
 } // namespace

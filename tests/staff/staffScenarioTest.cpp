@@ -1,4 +1,5 @@
 #include "Simulator.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -14,46 +15,10 @@ namespace {
 
 const char* cannotLine = "Cannot do business today: Not all employee positions are filled";
 
-// A headless game on the shipped data, driven line by line as a script would.
-class StaffScenario : public ::testing::Test {
-  protected:
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> simulator;
-    int lineNumber = 0;
-
-    void start(std::uint64_t seed) {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = seed;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
-    }
-    void run(const std::string& line) { simulator->runLine(line, ++lineNumber); }
-    Game& game() { return simulator->game(); }
+class StaffScenario : public SimScenario {
+protected:
     employeeManager& staff() { return game().employees; }
-    // The log lines written since the last call.
-    std::vector<std::string> newLog() {
-        out.str("");
-        run("log");
-        std::vector<std::string> lines;
-        std::istringstream in(out.str());
-        for (std::string l; std::getline(in, l);)
-            lines.push_back(l);
-        out.str("");
-        return lines;
-    }
-    nlohmann::json state() {
-        out.str("");
-        run("state");
-        const nlohmann::json s = nlohmann::json::parse(out.str());
-        out.str("");
-        return s;
-    }
-    static int count(const std::vector<std::string>& lines, const std::string& line) {
-        return static_cast<int>(std::count(lines.begin(), lines.end(), line));
-    }
+    std::vector<std::string> newLog() { return logLines(); }
     bool allFilled() {
         for (int p = 1; p <= 7; ++p)
             if (staff().getPosition(p).getMyEmployee() < 1)
