@@ -13,31 +13,21 @@
 
 namespace zorvane::lab {
 
-namespace {
+LossRoad lossRoadOf(const std::string& lastLogLine) {
+    if (lastLogLine == "It's hopeless!!!")
+        return LossRoad::Funds;
+    if (lastLogLine == "You have missed too many loan payments!")
+        return LossRoad::Loan;
+    return LossRoad::Rent;
+}
 
-// A lab game's screen: it shows nothing, but it notes how the game was lost. The line the
-// game wrote last before the lost-game picture tells the road.
-class LabScreen : public ScreenPort {
-public:
-    LossRoad lost = LossRoad::None;
-    void logLine(const std::string& line, bool) override { last_ = line; }
-    void showLose() override {
-        if (lost != LossRoad::None)
-            return;
-        if (last_ == "It's hopeless!!!")
-            lost = LossRoad::Funds;
-        else if (last_ == "You have missed too many loan payments!")
-            lost = LossRoad::Loan;
-        else
-            lost = LossRoad::Rent;
-    }
+void LossWatcher::showLose() {
+    if (lost == LossRoad::None)
+        lost = lossRoadOf(last_);
+}
 
-private:
-    std::string last_;
-};
-
-GameResult playOne(const LabOptions& o, std::uint64_t seed) {
-    LabScreen screen;
+GameResult playGame(const LabOptions& o, std::uint64_t seed, Strategy& strategy) {
+    LossWatcher screen;
     ScriptedDialogs dialogs;
     MemorySettings settings;
     GameSetup setup;
@@ -50,19 +40,24 @@ GameResult playOne(const LabOptions& o, std::uint64_t seed) {
     Game game(std::move(setup));
     GameResult r;
     r.seed = seed;
-    const auto strategy = makeStrategy(o.strategy);
+    const int days = o.years * 336;
+    int d = 0;
     try {
         game.startup();
         game.startPlay(o.goal);
         r.startFunds = game.finances.funds;
-        strategy->begin(game);
-        const int days = o.years * 336;
-        for (int d = 0; d < days; ++d) {
+        const bool hasGoal = o.goal >= 1 && o.goal <= game.goals.getLastGoal();
+        strategy.begin(game);
+        for (; d < days; ++d) {
             const int month = game.calendar.currentmonth;
-            strategy->beforeDay(game);
+            strategy.beforeDay(game);
             game.calendar.nextDay();
             if (game.calendar.currentmonth != month)
                 r.months.push_back({game.finances.funds, game.rating.getRating()});
+            if (hasGoal && !r.goalReached && game.goals.getGoal(o.goal).getAchieved()) {
+                r.goalReached = true;
+                r.goalReachedOnDay = d;
+            }
             if (screen.lost != LossRoad::None) {
                 r.lost = screen.lost;
                 r.lostOnDay = d;
@@ -73,16 +68,34 @@ GameResult playOne(const LabOptions& o, std::uint64_t seed) {
         // The game ended itself (a question answered No): what was played counts.
     } catch (const GameError& e) {
         r.fatal = e.what();
+        r.fatalOnDay = d;
     }
     return r;
 }
 
+GameResult playGame(const LabOptions& o, std::uint64_t seed) {
+    const std::unique_ptr<Strategy> strategy = makeStrategy(o.strategy, seed);
+    if (!strategy) {
+        GameResult r;
+        r.seed = seed;
+        r.fatal = "unknown strategy '" + o.strategy + "'";
+        return r;
+    }
+    return playGame(o, seed, *strategy);
+}
+
+namespace {
+
 const char* roadName(LossRoad road) {
     switch (road) {
-    case LossRoad::Funds: return "funds";
-    case LossRoad::Rent: return "rent";
-    case LossRoad::Loan: return "loan";
-    case LossRoad::None: return "";
+    case LossRoad::Funds:
+        return "funds";
+    case LossRoad::Rent:
+        return "rent";
+    case LossRoad::Loan:
+        return "loan";
+    case LossRoad::None:
+        return "";
     }
     return "";
 }
@@ -95,7 +108,9 @@ double fundsAt(const GameResult& g, std::size_t m) {
     return g.months[std::min(m, g.months.size() - 1)].funds;
 }
 
-std::size_t monthsPlayed(const LabResult& r) { return static_cast<std::size_t>(r.options.years) * 12; }
+std::size_t monthsPlayed(const LabResult& r) {
+    return static_cast<std::size_t>(r.options.years) * 12;
+}
 
 std::vector<double> fundsOfMonth(const LabResult& r, std::size_t m) {
     std::vector<double> v;
@@ -126,7 +141,7 @@ LabResult runLab(const LabOptions& options) {
     std::atomic<std::size_t> next{0};
     auto worker = [&] {
         for (std::size_t i = next++; i < result.games.size(); i = next++)
-            result.games[i] = playOne(options, options.seed + i);
+            result.games[i] = playGame(options, options.seed + i);
     };
     std::vector<std::thread> pool;
     for (unsigned t = 1; t < threads; ++t)
@@ -159,7 +174,8 @@ void printSummary(const LabResult& r, std::ostream& out) {
     out << "fatal errors: " << fatal << "\n";
     for (const GameResult& g : r.games)
         if (!g.fatal.empty()) {
-            out << "  first fatal (seed " << g.seed << "): " << g.fatal << "\n";
+            out << "  first fatal (seed " << g.seed << ", day " << g.fatalOnDay << "): " << g.fatal
+                << "\n";
             break;
         }
     out << std::setprecision(0);
@@ -210,8 +226,9 @@ void writeChart(const LabResult& r, std::ostream& out) {
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\"" << h
         << "\" font-family=\"sans-serif\" font-size=\"12\">\n";
     out << "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-    out << "<text x=\"" << left << "\" y=\"24\" font-size=\"15\">Zorvane lab: " << r.options.strategy
-        << ", " << r.games.size() << " games, month-end funds (10th-90th percentile, median)</text>\n";
+    out << "<text x=\"" << left
+        << "\" y=\"24\" font-size=\"15\">Zorvane lab: " << r.options.strategy << ", "
+        << r.games.size() << " games, month-end funds (10th-90th percentile, median)</text>\n";
     out << "<polygon fill=\"#9ecae1\" stroke=\"none\" points=\"";
     for (std::size_t m = 0; m < months; ++m)
         out << x(m) << ',' << y(p90[m]) << ' ';
@@ -221,12 +238,13 @@ void writeChart(const LabResult& r, std::ostream& out) {
     for (std::size_t m = 0; m < months; ++m)
         out << x(m) << ',' << y(p50[m]) << ' ';
     out << "\"/>\n";
-    out << "<line x1=\"" << left << "\" y1=\"" << y(0) << "\" x2=\"" << w - right << "\" y2=\"" << y(0)
-        << "\" stroke=\"#555\" stroke-dasharray=\"4 3\"/>\n";
+    out << "<line x1=\"" << left << "\" y1=\"" << y(0) << "\" x2=\"" << w - right << "\" y2=\""
+        << y(0) << "\" stroke=\"#555\" stroke-dasharray=\"4 3\"/>\n";
     for (int i = 0; i <= 4; ++i) {
         const double f = lo + (hi - lo) * i / 4;
         out << "<text x=\"" << left - 6 << "\" y=\"" << y(f) + 4 << "\" text-anchor=\"end\">$"
-            << std::setprecision(0) << f << "</text>\n" << std::setprecision(1);
+            << std::setprecision(0) << f << "</text>\n"
+            << std::setprecision(1);
     }
     for (int yr = 0; yr <= r.options.years; ++yr) {
         const std::size_t m = std::min(months - 1, static_cast<std::size_t>(yr) * 12);

@@ -1,4 +1,6 @@
 #pragma once
+#include "core/ScreenPort.h"
+
 #include <cstdint>
 #include <iosfwd>
 #include <string>
@@ -34,12 +36,36 @@ struct GameResult {
     double startFunds = 0;
     std::vector<MonthRecord> months; // one per month end played (up to the loss)
     std::string fatal;               // a fatal game error, if one ended the game
+    int fatalOnDay = -1;
 };
 
 struct LabResult {
     LabOptions options;
     std::vector<GameResult> games;
 };
+
+class Strategy;
+
+// The road of a loss, from the line the game wrote last before its lost-game picture: the
+// funds test and the bank each say why, the landlord says nothing.
+LossRoad lossRoadOf(const std::string& lastLogLine);
+
+// A lab game's screen: it shows nothing, but it notes how the game was lost.
+class LossWatcher : public ScreenPort {
+  public:
+    LossRoad lost = LossRoad::None;
+    void logLine(const std::string& line, bool) override { last_ = line; }
+    void showLose() override;
+
+  private:
+    std::string last_;
+};
+
+// One lab game: start-up, "Play !" with the goal of the options, then `years` game years of
+// days, each after the strategy's turn, until the game is lost or a fatal error ends it.
+GameResult playGame(const LabOptions& options, std::uint64_t seed, Strategy& strategy);
+// The same with a fresh strategy of the options' name, seeded from the game's seed.
+GameResult playGame(const LabOptions& options, std::uint64_t seed);
 
 // Plays the games on threads, each its own Game with its own seed.
 LabResult runLab(const LabOptions& options);

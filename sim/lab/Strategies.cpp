@@ -2,7 +2,9 @@
 
 namespace zorvane::lab {
 
-std::vector<std::string> strategyNames() { return {"idle", "advisor", "random"}; }
+std::vector<std::string> strategyNames() {
+    return {"idle", "advisor", "random"};
+}
 
 std::unique_ptr<Strategy> makeStrategy(const std::string& name, std::uint64_t seed) {
     if (name == "idle")

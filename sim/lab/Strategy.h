@@ -11,7 +11,7 @@ namespace zorvane::lab {
 // A built-in player for the balance lab. It acts through the same operations the screens
 // call, and reads only what a player can see.
 class Strategy {
-public:
+  public:
     virtual ~Strategy() = default;
     // Called once after "Play !", before the first day the strategy plays.
     virtual void begin(Game&) {}
