@@ -6,4 +6,4 @@ cd "$(dirname "$0")"
 tools/install-deps.sh
 cmake -S . -B build/release -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build/release -j"$(nproc)"
-exec build/release/bin/zorvane-sim build/release/bin/demo.txt "$@"
+exec build/release/bin/zorvane-sim --seed 2026 build/release/bin/demo.txt "$@"

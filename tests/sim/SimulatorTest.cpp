@@ -119,3 +119,20 @@ TEST(Simulator, AnswersAtTheTopServeStartUpQuestions) {
     EXPECT_NE(run.out.find("process ended"), std::string::npos);
     EXPECT_EQ(run.out.find("{"), std::string::npos);
 }
+
+TEST(Simulator, TheDemoScriptPlaysItsMonth) {
+    DataFolder data;
+    std::vector<std::string> script;
+    std::istringstream in(readFile(data.file("demo.txt")));
+    for (std::string line; std::getline(in, line);)
+        script.push_back(line);
+    script.push_back("state");
+    const SimRun run = simulate(data.path().string(), script, "", 2026, false);
+    ASSERT_EQ(run.status, 0) << run.err;
+    int hired = 0;
+    for (std::size_t p = run.out.find(" is a new member of the team.\n"); p != std::string::npos;
+         p = run.out.find(" is a new member of the team.\n", p + 1))
+        ++hired;
+    EXPECT_EQ(hired, 7);
+    EXPECT_EQ(lastState(run)["calendar"]["currentmonth"], 1);
+}
