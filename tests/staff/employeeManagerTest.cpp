@@ -185,15 +185,15 @@ TEST_F(ManagerTest, ANumberAboveTheCountRemovesNobodyAndOnlyRenumbers) {
     EXPECT_TRUE(log().empty());
 }
 
-TEST_F(ManagerTest, TheRemovedPersonKeepsTheJobAndTheDetailsPanelCloses) {
+TEST_F(ManagerTest, FiringThePersonShownClosesTheDetailsPanel) {
     setStaff({{"Ann Able", 1, 5, 1}, {"Bob Brown", 2, 5, 2}});
-    const auto bob = &emp(2);
     staff.showEmployeeDetails(2);
     EXPECT_TRUE(staff.detailsVisible());
     EXPECT_EQ(staff.selectedPosition(), 2);
     staff.fireEmployee(2);
     EXPECT_FALSE(staff.detailsVisible());
-    EXPECT_EQ(bob->job, 2);
+    EXPECT_EQ(staff.employeeCount(), 1);
+    EXPECT_EQ(holder(1), 1);
 }
 
 TEST_F(ManagerTest, FiringAnEmptyStaffDoesNothing) {
