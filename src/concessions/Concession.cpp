@@ -50,7 +50,8 @@ void Concession::nextMonth() {
 void Concession::sell() {
     if (stock <= 0) {
         // All five items share this once-a-day slot: only the first one short is told.
-        game_.gameLog("I was unable to sell any " + name + " today, out of stock!!!", 5);
+        if (!game_.logSlotUsed(5))
+            game_.gameLog("I was unable to sell any " + name + " today, out of stock!!!", 5);
         return;
     }
     stock -= 1;

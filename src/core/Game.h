@@ -57,6 +57,11 @@ public:
     // --- session ---
     void gameLog(const std::string& text, int slot);
     void resetLogSlots();
+    // Whether a once-a-day message of that slot has been logged today (so a busy caller can
+    // skip building the text).
+    bool logSlotUsed(int slot) const {
+        return slot > 0 && slot <= 20 && logSlots[static_cast<std::size_t>(slot)];
+    }
     void reportError(const std::string& text);
     void markUnsaved() { saved = false; }
     void quitGame();

@@ -17,7 +17,7 @@ bool Finances::spend(double amount, std::string_view department) {
         game_.screen().refresh(View::Finances);
         return false;
     }
-    setFunds(funds - amount);
+    funds -= amount; // the summary is marked stale once, below
     if (sameText(department, "promotions"))
         deppromo += amount;
     else if (sameText(department, "labor"))
@@ -36,7 +36,7 @@ bool Finances::spend(double amount, std::string_view department) {
 }
 
 void Finances::earn(double amount, std::string_view department) {
-    setFunds(funds + amount);
+    funds += amount; // the summary is marked stale once, below
     totalincome += amount;
     // Picked by length first: earn runs for every play and every snack sold.
     switch (department.size()) {
