@@ -58,10 +58,11 @@ GameResult playGame(const LabOptions& o, std::uint64_t seed, Strategy& strategy)
                 r.goalReached = true;
                 r.goalReachedOnDay = d;
             }
-            if (screen.lost != LossRoad::None) {
+            if (screen.lost != LossRoad::None && r.lost == LossRoad::None) {
                 r.lost = screen.lost;
                 r.lostOnDay = d;
-                break;
+                if (!strategy.playsOnAfterLoss())
+                    break;
             }
         }
     } catch (const ProcessEnded&) {

@@ -19,6 +19,7 @@ namespace zorvane::lab {
 // below the 16-bit limit the game warns about.
 class RandomStrategy : public Strategy {
   public:
+    bool playsOnAfterLoss() const override { return true; }
     explicit RandomStrategy(std::uint64_t seed);
 
     void beforeDay(Game& game) override;

@@ -17,6 +17,9 @@ class Strategy {
     virtual void begin(Game&) {}
     // Called before each day.
     virtual void beforeDay(Game& game) = 0;
+    // Whether it goes on playing once the lost-game picture has come (as a player may, for the
+    // clock does not stop). The loss still counts; the random player does, to soak the game.
+    virtual bool playsOnAfterLoss() const { return false; }
 };
 
 // The names `--lab` accepts.
