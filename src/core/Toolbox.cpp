@@ -62,6 +62,9 @@ std::string group(const std::string& digits) {
 } // namespace
 
 std::string formatGrouped(double value, int decimals) {
+    // The game's arithmetic never goes past a double's range without an overflow error.
+    if (!std::isfinite(value))
+        throw GameError(GameError::Kind::Overflow, "overflow: a money value is not finite");
     const bool negative = value < 0;
     // 15 significant digits, then a decimal rounding half away from zero.
     char buf[64];

@@ -142,11 +142,13 @@ void Movie::loadSelf(LineReader& in) {
         if (!splitKeyValue(line, key, value))
             continue;
         key = toLower(key);
+        if (key == "title") { // text: a title that begins like a huge number is still a title
+            Title = value;
+            continue;
+        }
         const double n = leadingNumber(value);
         if (key == "num")
             Num = toInt16(n);
-        else if (key == "title")
-            Title = value;
         else if (key == "income")
             Income = n;
         else if (key == "todaysincome")

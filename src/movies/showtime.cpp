@@ -142,6 +142,10 @@ void showtime::loadSelf(LineReader& in, int number) {
         if (!splitKeyValue(line, key, value))
             continue;
         key = toLower(key);
+        if (key == "name") { // text, never read as a number
+            name = value;
+            continue;
+        }
         const double n = leadingNumber(value);
         if (key == "matinee")
             matinee = (n == 1) ? -1 : 0;
@@ -153,8 +157,6 @@ void showtime::loadSelf(LineReader& in, int number) {
             todaysincome = n;
         else if (key == "ads")
             ads = toInt16(n);
-        else if (key == "name")
-            name = value;
     }
     showMatineeColor();
     caption = name;
