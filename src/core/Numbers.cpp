@@ -98,12 +98,18 @@ static std::size_t scanNumber(std::string_view text, std::size_t start) {
     return i - start;
 }
 
+// A number beyond the range of a double (1e400, or three hundred and ten digits) is an
+// overflow, as the game's number reading has always raised it, not an infinity.
 static double parseScanned(std::string_view text) {
     std::string s(text);
     for (char& c : s)
         if (c == 'd' || c == 'D')
             c = 'e';
-    return std::strtod(s.c_str(), nullptr);
+    const double value = std::strtod(s.c_str(), nullptr);
+    if (std::isinf(value))
+        throw GameError(GameError::Kind::Overflow,
+                        "overflow: the number " + std::string(text) + " is too large");
+    return value;
 }
 
 double leadingNumber(std::string_view text) {

@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <fstream>
+#include <set>
 
 namespace zorvane {
 
@@ -149,22 +150,39 @@ void employeeManager::loadEmployeeDatabase() {
 
 // The day's applicants: ten different names drawn from the whole file, whoever they are. A
 // staff member drawn here has his or her number overwritten until the staff grid renumbers.
-// Kept on purpose: a file of fewer than ten different names loops for ever, an empty one
-// ends in a bounds error.
+// An empty file ends in a bounds error. A file of fewer than ten different names would draw
+// for ever: every thousandth draw of a name already in the table counts the file's names,
+// and too few of them stop the game with a run-time error that says so.
 void employeeManager::newCandidates() {
     resetList(hireEmployees_);
+    int drawnAgain = 0;
     while (candidateCount() < applicantsADay) {
         const int index = static_cast<int>(std::floor(databaseCount() * game_.rng.next())) + 1;
         const Person drawn = at(allEmployees_, index, "employee database");
         bool again = false;
         for (int r = 1; r <= candidateCount() && !again; ++r)
             again = hireEmployees_[static_cast<std::size_t>(r)]->name == drawn->name;
-        if (again)
+        if (again) {
+            if (++drawnAgain % 1000 == 0)
+                checkEnoughNames();
             continue;
+        }
         append(hireEmployees_, drawn, "hire table");
         drawn->setMyNum(candidateCount());
     }
     refreshHireTable();
+}
+
+// The day's ten applicants need ten different names in employees.cfg.
+void employeeManager::checkEnoughNames() const {
+    std::set<std::string> names;
+    for (int i = 1; i <= databaseCount(); ++i)
+        names.insert(allEmployees_[static_cast<std::size_t>(i)]->name);
+    if (static_cast<int>(names.size()) < applicantsADay)
+        throw GameError(GameError::Kind::Bounds,
+                        "employees.cfg holds " + std::to_string(names.size()) +
+                            " different names, but the day's " + std::to_string(applicantsADay) +
+                            " applicants need at least that many different names");
 }
 
 // The staff's day, then (when the theater can do business) the sick and their stand-ins

@@ -101,6 +101,7 @@ class employeeManager {
     void resetList(std::vector<Person>& list);
 
     void readDatabaseLine(const std::string& raw);
+    void checkEnoughNames() const;
     void staffDay();
     void payTheStaff();
     int bestByAmbition(int pos, bool highest, int pass) const;

@@ -1,0 +1,31 @@
+// Fuzz target of employees.cfg: the candidates' file read at start-up, then put to work.
+//
+// The input is the program folder's employees.cfg. The game starts on it (the start-up reads
+// the file and the first day draws ten applicants from it), every applicant is hired into a
+// rich theater, and the staff lives three days and a month, so that what a line's numbers
+// feed (training cost, the post a hire goes to, sickness, learning, anger) runs on the
+// file's values. Then everyone is fired again.
+#include "FuzzSupport.h"
+
+using namespace zorvane;
+using namespace zorvane::fuzz;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const FuzzFolder& folder = FuzzFolder::instance();
+    static const bool trimmed = (folder.trimCatalogues(40), true);
+    (void)trimmed;
+    folder.write("employees.cfg", data, size);
+    FuzzGame game;
+    return runInput([&] {
+        startRichGame(*game);
+        employeeManager& staff = game->employees;
+        while (staff.candidateCount() > 0)
+            staff.hireEmployee(1);
+        for (int day = 0; day < 3; ++day)
+            game->calendar.nextDay();
+        staff.employeesNextMonth();
+        staff.refreshEmployeeGrid();
+        for (int n = staff.employeeCount(); n >= 1; --n)
+            staff.fireEmployee(n);
+    });
+}
