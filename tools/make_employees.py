@@ -122,9 +122,9 @@ KINDS = [
     ("overqualified", 4, (8, 10, 8), (2, 7, 4), (1, 8, 5)),
 ]
 
-def draw(rng, spec):
+def draw(rng, span):
     """A whole number from lowest to highest, leaning towards the likeliest."""
-    low, high, mode = spec
+    low, high, mode = span
     if low == high:
         return low
     value = int(round(rng.triangular(low - 0.49, high + 0.49, mode)))
