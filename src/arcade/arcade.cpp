@@ -260,16 +260,11 @@ void arcade::saveSelf(LineWriter& out, const std::string& listWord) const {
 // Reads one block up to its closing tag. Keys are compared in lower case, values are their
 // leading number, the name is kept as it stands. The screen is not touched.
 void arcade::loadSelf(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         if (key == "name") {
             Name = value;
-            continue;
+            return;
         }
         const double n = leadingNumber(value);
         if (key == "num")
@@ -302,7 +297,7 @@ void arcade::loadSelf(LineReader& in) {
             Income = n;
         else if (key == "cost")
             cost = n;
-    }
+    });
 }
 
 void arcade::unloadSelf() {

@@ -139,16 +139,11 @@ void Concession::saveSelf(LineWriter& out) const {
 // Reads the item's block behind its opening line, up to the line that begins "</". The
 // quality is taken as written, not clamped.
 void Concession::loadSelf(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         if (key == "name") {
             name = value;
-            continue;
+            return;
         }
         const double v = leadingNumber(value);
         if (key == "quality")
@@ -171,7 +166,7 @@ void Concession::loadSelf(LineReader& in) {
             todaysprofit = v;
         else if (key == "todayssold")
             todayssold = toInt16(v);
-    }
+    });
     updateMyListing();
 }
 

@@ -135,16 +135,11 @@ void Movie::saveSelf(LineWriter& out, const std::string& kind) const {
 // Reads the block up to its closing line. The tickets sold and the list line are not in
 // the file: sold counts from 0 again and the own list is rebuilt after the load.
 void Movie::loadSelf(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         if (key == "title") { // text: a title that begins like a huge number is still a title
             Title = value;
-            continue;
+            return;
         }
         const double n = leadingNumber(value);
         if (key == "num")
@@ -169,7 +164,7 @@ void Movie::loadSelf(LineReader& in) {
             firstPrice = n;
         else if (key == "running")
             Running = (n == 1);
-    }
+    });
 }
 
 } // namespace zorvane

@@ -135,16 +135,11 @@ void showtime::saveSelf(LineWriter& out) const {
 // keeps its own showtime names even under a changed math file.
 void showtime::loadSelf(LineReader& in, int number) {
     num = number;
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         if (key == "name") { // text, never read as a number
             name = value;
-            continue;
+            return;
         }
         const double n = leadingNumber(value);
         if (key == "matinee")
@@ -157,7 +152,7 @@ void showtime::loadSelf(LineReader& in, int number) {
             todaysincome = n;
         else if (key == "ads")
             ads = toInt16(n);
-    }
+    });
     showMatineeColor();
     caption = name;
     game_->screen().refresh(View::Ads);

@@ -131,20 +131,15 @@ void promoManager::savePromotions(LineWriter& out) const {
 // Reads "running 0" to "running 4" and "cost 0" to "cost 4"; a saved game thus keeps the
 // grown costs, not the math file's.
 void promoManager::loadPromotions(LineReader& in) {
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         for (std::size_t i = 0; i < mediaCount; ++i) {
             if (key == "running " + std::to_string(i))
                 promoRunning[i] = toInt16(leadingNumber(value));
             else if (key == "cost " + std::to_string(i))
                 promoCost[i] = leadingNumber(value);
         }
-    }
+    });
     showPromotions();
 }
 

@@ -126,13 +126,8 @@ void ratingManager::saveRatings(LineWriter& out) const {
 // Reads the section, then draws the twelve bars from the history and shows the rating.
 void ratingManager::loadRatings(LineReader& in) {
     paintNeutral();
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         if (key == "currentaverage") {
             currentAverage = toInt16(leadingNumber(value));
         } else if (key == "currentrating") {
@@ -149,7 +144,7 @@ void ratingManager::loadRatings(LineReader& in) {
                                                              " out of range");
             history[static_cast<std::size_t>(index)] = toInt16(leadingNumber(value));
         }
-    }
+    });
     for (int month = 0; month < 12; ++month)
         drawBar(month, history[static_cast<std::size_t>(month)]);
     refreshRatingDisplay();

@@ -285,13 +285,8 @@ bool employee::saveSelf(LineWriter& out) const {
 // how the posts get their holders back.
 void employee::loadSelf(LineReader& in, int newNum) {
     num = newNum;
-    std::string line, key, value;
-    while (in.readLine(line)) {
-        if (line.rfind("</", 0) == 0)
-            break;
-        if (!splitKeyValue(line, key, value))
-            continue;
-        key = toLower(key);
+    readSection(in, [&](const std::string& rawKey, const std::string& value) {
+        const std::string key = toLower(rawKey);
         const double n = leadingNumber(value);
         if (key == "name")
             name = value;
@@ -329,7 +324,7 @@ void employee::loadSelf(LineReader& in, int newNum) {
             myPicHair = toInt16(n);
         if (job >= 1)
             game_->employees.getPosition(job).setMyEmployee(num);
-    }
+    });
 }
 
 } // namespace zorvane
