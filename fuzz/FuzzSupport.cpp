@@ -1,4 +1,7 @@
 #include "FuzzSupport.h"
+#include "SaveCompare.h"
+
+#include "core/LineReader.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -140,6 +143,51 @@ void startRichGame(Game& game) {
     startWithShippedMath(game);
     game.startPlay(0);
     game.finances.setFunds(1e9);
+}
+
+namespace {
+
+std::string saveSections(Game& game, std::initializer_list<const char*> tags) {
+    std::ostringstream text;
+    LineWriter out(text);
+    for (const char* tag : tags)
+        for (const SavedGame::Section& s : SavedGame::sections())
+            if (std::string(s.tag) == tag)
+                s.save(game, out);
+    return text.str();
+}
+
+void loadSections(Game& game, const std::string& text) {
+    std::istringstream file(text);
+    LineReader in(file, "saved sections");
+    std::string line;
+    while (in.readLine(line))
+        for (const SavedGame::Section& s : SavedGame::sections())
+            if (line == s.tag)
+                s.load(game, in);
+}
+
+} // namespace
+
+void checkSectionsRoundTrip(Game& game, std::initializer_list<const char*> tags,
+                            const std::string& what) {
+    std::string saved, savedAgain;
+    try {
+        saved = saveSections(game, tags);
+    } catch (const std::exception& e) {
+        finding("the " + what + " cannot be saved: " + e.what());
+    }
+    FuzzGame again;
+    try {
+        startWithShippedMath(*again);
+        loadSections(*again, saved);
+        savedAgain = saveSections(*again, tags);
+    } catch (const std::exception& e) {
+        finding("the " + what + " the game saved do not load again: " + e.what());
+    }
+    const std::string difference = firstDifference(saved, savedAgain);
+    if (!difference.empty())
+        finding("the " + what + " saved, loaded and saved again differ: " + difference);
 }
 
 void tellOutcome(const char* outcome, const char* message) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -73,6 +74,12 @@ void startWithShippedMath(Game& game);
 // A game started with the shipped math, "Play !" pressed on Free Play, and money enough for
 // anything: the state in which the targets act as a player would.
 void startRichGame(Game& game);
+
+// Saves the sections of `game` with the given open tags (as the saved game writes them),
+// reads that text into a fresh started game and saves the same sections again: the two
+// texts must agree (SaveCompare.h), or it is a finding named after `what`.
+void checkSectionsRoundTrip(Game& game, std::initializer_list<const char*> tags,
+                            const std::string& what);
 
 // Runs one input's work. The game's own run-time error (GameError) and the end of the
 // process (ProcessEnded) are correct outcomes. Any other exception is a finding: its message

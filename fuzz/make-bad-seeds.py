@@ -135,6 +135,8 @@ def employees():
     write("employees_cfg", "extra-fields", "\n".join(n + "|1|2|zzz" for n in names))
     write("employees_cfg", "zeros-and-negatives", "\n".join(
         names + ["Zed Zero|0|5|5", "Neg Ative|-3|5|5", "|3|3|3", "No Amb|3|3|0"]))
+    write("employees_cfg", "number-like-names", "\n".join(
+        "%de999 %s|%d|5|5" % (i + 1, n.split("|")[0], i % 8 + 1) for i, n in enumerate(names)))
     write("employees_cfg", "tricky-names", "\n".join(
         ["</emps>|3|3|3", "<employee>|2|2|2", "name=x|4|4|4", "  blank  |5|5|5"] + names))
 
@@ -169,7 +171,7 @@ def lists(target, filename):
     write(target, "same-title", "\n".join([lines[0]] * 40) + "\n")
     write(target, "long-titles", "\n".join(l * 40 for l in lines[:20]) + "\n")
     write(target, "tricky-titles", "\n".join(
-        ["</movies>", "<movie_buy>", "</arcades>", "<arcade_my>", "Title=x", "Name=y", "=",
+        ["</movies>", "<movie_buy>", "9e999 Nights", "1d400", "-1e309 Below", "</arcades>", "<arcade_my>", "Title=x", "Name=y", "=",
          "  leading blanks", "trailing blanks  ", "#hash", "a|b|c"] + lines[:30]) + "\n")
 
 

@@ -266,37 +266,37 @@ void arcade::loadSelf(LineReader& in) {
             Name = value;
             return;
         }
-        const double n = leadingNumber(value);
+        const auto n = [&value] { return leadingNumber(value); };
         if (key == "num")
-            Num = toInt16(n);
+            Num = toInt16(n());
         else if (key == "originalnum")
-            OriginalNum = toInt16(n);
+            OriginalNum = toInt16(n());
         else if (key == "pop")
-            Pop = toInt16(n);
+            Pop = toInt16(n());
         else if (key == "classic")
-            Classic = toInt16(n);
+            Classic = toInt16(n());
         else if (key == "age")
-            Age = toInt16(n);
+            Age = toInt16(n());
         else if (key == "cabinetimagefilenumber")
-            CabinetImageFileNumber = toInt16(n);
+            CabinetImageFileNumber = toInt16(n());
         else if (key == "iambroke")
-            IamBroke = (n == 1);
+            IamBroke = (n() == 1);
         else if (key == "originalprice")
-            OriginalPrice = n;
+            OriginalPrice = n();
         else if (key == "repairbillstotal")
-            RepairBillsTotal = n;
+            RepairBillsTotal = n();
         else if (key == "priceperplay")
-            PricePerPlay = toInt16(n);
+            PricePerPlay = toInt16(n());
         else if (key == "totalplays")
-            TotalPlays = n;
+            TotalPlays = n();
         else if (key == "mycabtop")
-            MyCabTop = toFloat(n, in.where() + key);
+            MyCabTop = toFloat(n(), in.where() + key);
         else if (key == "mycableft")
-            myCabLeft = toFloat(n, in.where() + key);
+            myCabLeft = toFloat(n(), in.where() + key);
         else if (key == "income")
-            Income = n;
+            Income = n();
         else if (key == "cost")
-            cost = n;
+            cost = n();
     });
 }
 

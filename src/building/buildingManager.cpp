@@ -213,23 +213,23 @@ void buildingManager::saveBuilding(LineWriter& out) const {
 void buildingManager::loadBuilding(LineReader& in) {
     readSection(in, [this](const std::string& rawKey, const std::string& value) {
         const std::string key = toLower(rawKey);
-        const double v = leadingNumber(value);
+        const auto v = [&value] { return leadingNumber(value); };
         if (key == "condition")
-            condition = toInt16(v);
+            condition = toInt16(v());
         else if (key == "repaircost")
-            repairCost = toInt16(v);
+            repairCost = toInt16(v());
         else if (key == "renovatecost")
-            renovateCost = v;
+            renovateCost = v();
         else if (key == "rent")
-            rent = v;
+            rent = v();
         else if (key == "totalrentpaid")
-            totalRentPaid = v;
+            totalRentPaid = v();
         else if (key == "monthswithoutpayingrent")
-            monthsWithoutPayingRent = toInt16(v);
+            monthsWithoutPayingRent = toInt16(v());
         else if (key == "seating")
-            seating = toInt16(v);
+            seating = toInt16(v());
         else if (key == "IamBroken") // never matches: the key is lower case
-            IamBroken = (v == 1);
+            IamBroken = (v() == 1);
     });
     showBuilding();
     if (IamBroken) {

@@ -145,27 +145,27 @@ void Concession::loadSelf(LineReader& in) {
             name = value;
             return;
         }
-        const double v = leadingNumber(value);
+        const auto v = [&value] { return leadingNumber(value); };
         if (key == "quality")
-            quality = toInt16(v);
+            quality = toInt16(v());
         else if (key == "price")
-            price = v;
+            price = v();
         else if (key == "cost")
-            cost = v;
+            cost = v();
         else if (key == "stock")
-            stock = toInt16(v);
+            stock = toInt16(v());
         else if (key == "lastmonthsales")
-            lastmonthsales = toInt16(v);
+            lastmonthsales = toInt16(v());
         else if (key == "thismonthsales")
-            thismonthsales = toInt16(v);
+            thismonthsales = toInt16(v());
         else if (key == "buypermonth")
-            buypermonth = toInt16(v);
+            buypermonth = toInt16(v());
         else if (key == "lastmonthincome")
-            lastmonthincome = v;
+            lastmonthincome = v();
         else if (key == "todaysprofit")
-            todaysprofit = v;
+            todaysprofit = v();
         else if (key == "todayssold")
-            todayssold = toInt16(v);
+            todayssold = toInt16(v());
     });
     updateMyListing();
 }

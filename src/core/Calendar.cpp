@@ -122,17 +122,17 @@ void Calendar::saveCalendar(LineWriter& out) const {
 void Calendar::loadCalendar(LineReader& in) {
     readSection(in, [this](const std::string& rawKey, const std::string& value) {
         const std::string key = toLower(rawKey);
-        const int n = toInt16(leadingNumber(value));
+        const auto n = [&value] { return toInt16(leadingNumber(value)); };
         if (key == "currentday")
-            currentday = n;
+            currentday = n();
         else if (key == "currentweek")
-            currentweek = n;
+            currentweek = n();
         else if (key == "currentmonth")
-            currentmonth = n;
+            currentmonth = n();
         else if (key == "currentyear")
-            currentyear = n;
+            currentyear = n();
         else if (key == "onedayclose")
-            onedayclose = (n == 1);
+            onedayclose = (n() == 1);
     });
     refreshCalendar();
 }

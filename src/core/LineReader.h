@@ -44,6 +44,8 @@ bool splitKeyValue(const std::string& line, std::string& key, std::string& value
 
 // Reads a saved-game section's lines up to and including its closing line (the first that
 // begins with "</"), handing each "key=value" line to `entry`; other lines are skipped.
+// An entry takes a value's number only for the keys that hold numbers: a name, or a key the
+// game does not know, may begin like a number too large to read, and must not stop the load.
 template <typename Entry> void readSection(LineReader& in, Entry&& entry) {
     std::string line, key, value;
     while (in.readLine(line)) {

@@ -97,7 +97,7 @@ void Finances::saveFinances(LineWriter& out) const {
 void Finances::loadFinances(LineReader& in) {
     readSection(in, [this, &in](const std::string& key, const std::string& value) {
         // Unlike the other sections, keys are case sensitive here.
-        const double v = leadingNumber(value);
+        const auto v = [&value] { return leadingNumber(value); };
         if (key.compare(0, 9, "histfunds") == 0) {
             const std::size_t open = key.find('(');
             const std::string inside =
@@ -106,31 +106,31 @@ void Finances::loadFinances(LineReader& in) {
             if (index < 0 || index > 12)
                 throw GameError(GameError::Kind::Bounds, in.where() + "histfunds index " +
                                                              std::to_string(index) + " out of range");
-            histfunds[static_cast<std::size_t>(index)] = v;
+            histfunds[static_cast<std::size_t>(index)] = v();
         } else if (key == "funds") {
-            funds = v;
+            funds = v();
         } else if (key == "totalspent") {
-            totalspent = v;
+            totalspent = v();
         } else if (key == "totalincome") {
-            totalincome = v;
+            totalincome = v();
         } else if (key == "deppromo") {
-            deppromo = v;
+            deppromo = v();
         } else if (key == "deplabor") {
-            deplabor = v;
+            deplabor = v();
         } else if (key == "depmovie") {
-            depmovie = v;
+            depmovie = v();
         } else if (key == "deparcade") {
-            deparcade = v;
+            deparcade = v();
         } else if (key == "depconcessions") {
-            depconcessions = v;
+            depconcessions = v();
         } else if (key == "deploan") {
-            deploan = v;
+            deploan = v();
         } else if (key == "incdepmovie") {
-            incdepmovie = v;
+            incdepmovie = v();
         } else if (key == "incdeparcade") {
-            incdeparcade = v;
+            incdeparcade = v();
         } else if (key == "incdepconcessions") {
-            incdepconcessions = v;
+            incdepconcessions = v();
         }
     });
     game_.screen().refresh(View::Finances);

@@ -273,21 +273,21 @@ void loanManager::saveLoans(LineWriter& out) const {
 void loanManager::loadLoans(LineReader& in) {
     readSection(in, [this](const std::string& rawKey, const std::string& value) {
         const std::string key = toLower(rawKey);
-        const double v = leadingNumber(value);
+        const auto v = [&value] { return leadingNumber(value); };
         if (key == "interestrate")
-            interestRate = round2(v);
+            interestRate = round2(v());
         else if (key == "creditscore")
-            creditScore = round2(v);
+            creditScore = round2(v());
         else if (key == "balance")
-            balance = v;
+            balance = v();
         else if (key == "payplan")
-            payPlan = toInt16(v);
+            payPlan = toInt16(v());
         else if (key == "paymentsremaining")
-            paymentsRemaining = v;
+            paymentsRemaining = v();
         else if (key == "monthlypayment")
-            monthlyPayment = v;
+            monthlyPayment = v();
         else if (key == "loanamount")
-            loanAmount = v;
+            loanAmount = v();
     });
     refreshCredit();
 }

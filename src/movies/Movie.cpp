@@ -141,29 +141,29 @@ void Movie::loadSelf(LineReader& in) {
             Title = value;
             return;
         }
-        const double n = leadingNumber(value);
+        const auto n = [&value] { return leadingNumber(value); };
         if (key == "num")
-            Num = toInt16(n);
+            Num = toInt16(n());
         else if (key == "income")
-            Income = n;
+            Income = n();
         else if (key == "todaysincome")
-            todaysIncome = n;
+            todaysIncome = n();
         else if (key == "todaystickets")
-            todaysTickets = toInt16(n);
+            todaysTickets = toInt16(n());
         else if (key == "profit")
-            Profit = n;
+            Profit = n();
         else if (key == "days")
-            Days = n;
+            Days = n();
         else if (key == "pop")
-            Pop = toInt16(n);
+            Pop = toInt16(n());
         else if (key == "classic")
-            Classic = toInt16(n);
+            Classic = toInt16(n());
         else if (key == "price")
-            Price = n;
+            Price = n();
         else if (key == "firstprice")
-            firstPrice = n;
+            firstPrice = n();
         else if (key == "running")
-            Running = (n == 1);
+            Running = (n() == 1);
     });
 }
 

@@ -141,17 +141,17 @@ void showtime::loadSelf(LineReader& in, int number) {
             name = value;
             return;
         }
-        const double n = leadingNumber(value);
+        const auto n = [&value] { return leadingNumber(value); };
         if (key == "matinee")
-            matinee = (n == 1) ? -1 : 0;
+            matinee = (n() == 1) ? -1 : 0;
         else if (key == "movie")
-            movie = toInt16(n);
+            movie = toInt16(n());
         else if (key == "todaysticketsales")
-            todaysticketsales = toInt16(n);
+            todaysticketsales = toInt16(n());
         else if (key == "todaysincome")
-            todaysincome = n;
+            todaysincome = n();
         else if (key == "ads")
-            ads = toInt16(n);
+            ads = toInt16(n());
     });
     showMatineeColor();
     caption = name;

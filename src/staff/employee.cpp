@@ -287,41 +287,41 @@ void employee::loadSelf(LineReader& in, int newNum) {
     num = newNum;
     readSection(in, [&](const std::string& rawKey, const std::string& value) {
         const std::string key = toLower(rawKey);
-        const double n = leadingNumber(value);
+        const auto n = [&value] { return leadingNumber(value); };
         if (key == "name")
             name = value;
         else if (key == "exp")
-            exp = toInt16(n);
+            exp = toInt16(n());
         else if (key == "rel")
-            rel = toInt16(n);
+            rel = toInt16(n());
         else if (key == "amb")
-            amb = toInt16(n);
+            amb = toInt16(n());
         else if (key == "anger")
-            anger = toInt16(n);
+            anger = toInt16(n());
         else if (key == "angerreason")
             angerreason = value;
         else if (key == "job")
-            job = toInt16(n);
+            job = toInt16(n());
         else if (key == "trainingcost")
-            trainingcost = n;
+            trainingcost = n();
         else if (key == "seniority")
-            seniority = toInt16(n);
+            seniority = toInt16(n());
         else if (key == "paid")
-            paid = n;
+            paid = n();
         else if (key == "sickdays")
-            sickdays = toInt16(n);
+            sickdays = toInt16(n());
         else if (key == "daysworked")
-            daysworked = toInt32(n);
+            daysworked = toInt32(n());
         else if (key == "daysemployed")
-            daysemployed = toInt32(n);
+            daysemployed = toInt32(n());
         else if (key == "fillingin")
-            fillingin = (n == 1);
+            fillingin = (n() == 1);
         else if (key == "mypicskin")
-            myPicSkin = toInt16(n);
+            myPicSkin = toInt16(n());
         else if (key == "mypicglasses")
-            myPicGlasses = toInt16(n);
+            myPicGlasses = toInt16(n());
         else if (key == "mypichair")
-            myPicHair = toInt16(n);
+            myPicHair = toInt16(n());
         if (job >= 1)
             game_->employees.getPosition(job).setMyEmployee(num);
     });

@@ -86,5 +86,31 @@ TEST(LoaderFindings, ASavedGameWithAnInfiniteFigureStopsLoadingThere) {
     EXPECT_EQ(game->finances.getHistFunds(10), 0.0);
 }
 
+// Once a too-large number became an overflow, the section readers that took every value's
+// number before looking at the key failed on a person named like a number (a name from
+// employees.cfg, saved by the game itself) and on an unknown key with a huge value, which
+// the game ignores. Only the keys that hold numbers are read as numbers.
+TEST(LoaderFindings, TextsAndUnknownKeysThatLookLikeHugeNumbersLoad) {
+    DataFolder folder;
+    TestGame game(folder.path().string());
+    game->startup();
+    const std::string path = folder.write(
+        "names.zvn", "<version>\r\nprogramVersion=2.0.1\r\n</version>\r\n"
+                     "<calendar>\r\nmood=1e999\r\nspare=40000\r\ncurrentday=3\r\n</calendar>\r\n"
+                     "<emps>\r\nminWage= 5.15\r\n<employee>\r\nname=9e999 Smith\r\n"
+                     "angerreason=1e999\r\nexp= 3\r\nmood=1e999\r\n</employee>\r\n</emps>\r\n"
+                     "<building>\r\nmood=1e999\r\nseating=77\r\n</building>\r\n"
+                     "<loans>\r\nmood=1e999\r\nbalance=12\r\n</loans>\r\n"
+                     "<finances>\r\nmood=1e999\r\nfunds=34\r\n</finances>\r\n");
+    game->files.loadGame(path);
+    ASSERT_EQ(game->employees.employeeCount(), 1);
+    EXPECT_EQ(game->employees.getEmployee(1).name, "9e999 Smith");
+    EXPECT_EQ(game->employees.getEmployee(1).exp, 3);
+    EXPECT_EQ(game->building.getSeating(), 77);
+    EXPECT_EQ(game->loans.getBalance(), 12);
+    EXPECT_EQ(game->finances.getFunds(), 34);
+    EXPECT_EQ(game->calendar.currentday, 3);
+}
+
 } // namespace
 } // namespace zorvane::test
