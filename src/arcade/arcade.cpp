@@ -80,7 +80,13 @@ void arcade::init(int number, const std::string& name) {
 bool arcade::play(int playsSoFar) {
     if (IamBroke)
         return false;
-    return play(playTerms(), playsSoFar);
+    const PlayTerms terms = playTerms();
+    const int chance =
+        sub16(terms.baseChance, mul16(playsSoFar, game_->math.arcadeplaychanceplayedmod));
+    if (game_->rng.percentRoll() > chance)
+        return false;
+    takePlay(terms.price);
+    return true;
 }
 
 arcade::PlayTerms arcade::playTerms() const {
@@ -88,14 +94,7 @@ arcade::PlayTerms arcade::playTerms() const {
     return {price, floorInt16(Pop - game_->math.arcadeplaychancepricemod * price)};
 }
 
-bool arcade::play(const PlayTerms& terms, int playsSoFar) {
-    if (IamBroke)
-        return false;
-    const double price = terms.price;
-    const int chance =
-        sub16(terms.baseChance, mul16(playsSoFar, game_->math.arcadeplaychanceplayedmod));
-    if (game_->rng.percentRoll() > chance)
-        return false;
+void arcade::takePlay(double price) {
     game_->finances.earn(price, "arcade");
     TotalPlays += 1;
     Income += price;
@@ -103,7 +102,6 @@ bool arcade::play(const PlayTerms& terms, int playsSoFar) {
     if (manager.detailsVisible && manager.detailsNum == Num)
         showDetails();
     checkBreakdown(price);
-    return true;
 }
 
 // About one play in arcadebreakchance breaks the machine, and the customer gets the play's

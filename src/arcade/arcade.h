@@ -44,7 +44,8 @@ class arcade {
         int baseChance = 0;
     };
     PlayTerms playTerms() const;
-    bool play(const PlayTerms& terms, int playsSoFar);
+    // A visitor has played: books the takings and rolls for a breakdown.
+    void takePlay(double price);
     void setOriginalPurchasePrice(double dollars) { OriginalPrice = dollars; }
     bool getIamBroke() const { return IamBroke; }
     void setTitleColor();

@@ -261,15 +261,31 @@ void arcadeManager::doArcadeBusiness(int count) {
     if (visitors < 1)
         return;
     // No machine comes or goes while the crowd plays, and a machine's price and popularity
-    // stay put, so each machine's terms are worked out once for the whole crowd.
-    playTerms_.clear();
-    for (const auto& machine : myGames)
-        playTerms_.push_back(machine->getIamBroke() ? arcade::PlayTerms{} : machine->playTerms());
+    // stay put, so each machine's terms are worked out once for the whole crowd; this loop
+    // is the busiest of the day. A broken machine draws no roll; one that breaks down stops
+    // taking plays unless auto-repair mends it at once.
+    offers_.clear();
+    for (const auto& machine : myGames) {
+        const bool broken = machine->getIamBroke();
+        offers_.push_back({machine.get(), broken ? arcade::PlayTerms{} : machine->playTerms(),
+                           broken});
+    }
+    const int playedMod = game_.math.arcadeplaychanceplayedmod;
+    Random& rng = game_.rng;
     Int16 plays{0};
+    long long lowered = 0; // what every chance has lost to the crowd's plays so far
     for (int visitor = 1; visitor <= visitors; ++visitor)
-        for (std::size_t i = 0; i < myGames.size(); ++i)
-            if (myGames[i]->play(playTerms_[i], plays))
-                ++plays;
+        for (Offer& offer : offers_) {
+            if (offer.broken)
+                continue;
+            const int chance = sub16(offer.terms.baseChance, checkedInt16(lowered));
+            if (rng.percentRoll() > chance)
+                continue;
+            offer.machine->takePlay(offer.terms.price);
+            offer.broken = offer.machine->getIamBroke();
+            ++plays;
+            lowered = static_cast<long long>(plays) * playedMod;
+        }
 }
 
 // The average popularity of the room for the rating, summed in 16 bits; 0 with no machines.

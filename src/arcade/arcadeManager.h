@@ -104,7 +104,13 @@ class arcadeManager {
 
     Game& game_;
     bool autoRepair_ = false;
-    std::vector<arcade::PlayTerms> playTerms_; // reused by every crowd
+    // What each machine offers the crowd now playing, in room order; reused by every crowd.
+    struct Offer {
+        arcade* machine;
+        arcade::PlayTerms terms;
+        bool broken;
+    };
+    std::vector<Offer> offers_;
 };
 
 } // namespace zorvane

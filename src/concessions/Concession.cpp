@@ -66,12 +66,17 @@ void Concession::sell() {
 
 // One customer's decision: the chance falls by concessconsidercost percent for each cent of
 // price and moves by the quality's bonus; a percent roll at or below it buys, stock or not.
-void Concession::sell_consider() {
+void Concession::sell_consider() { sell_consider(considerChance()); }
+
+double Concession::considerChance() const {
     if (quality < 0 || quality > 3)
         throw GameError(GameError::Kind::Bounds, "subscript out of range: quality " +
                                                      std::to_string(quality) + " of " + name);
-    const double chance = 100 - price * 100 * game_.math.concessconsidercost +
-                          game_.math.concessconsiderqual[static_cast<std::size_t>(quality)];
+    return 100 - price * 100 * game_.math.concessconsidercost +
+           game_.math.concessconsiderqual[static_cast<std::size_t>(quality)];
+}
+
+void Concession::sell_consider(double chance) {
     const int roll = game_.rng.percentRoll();
     if (roll <= chance)
         sell();

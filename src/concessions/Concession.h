@@ -60,6 +60,10 @@ class Concession {
     void nextMonth();
     void sell();
     void sell_consider();
+    // The same decision with the chance already worked out by `considerChance`: a crowd's
+    // price and quality stay put, so the stand works each item's chance out once a crowd.
+    void sell_consider(double chance);
+    double considerChance() const;
     void updateMyListing();
     void setQuality(int value);
     int getQuality() const { return quality; }

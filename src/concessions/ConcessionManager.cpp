@@ -47,9 +47,16 @@ void ConcessionManager::doConcessionBusiness(int crowd) {
     const int visitors = visitorsOf(crowd, game_.math.percentconcessions);
     if (visitors < 1)
         return;
-    for (int v = 0; v < visitors; ++v)
-        for (Concession& c : items_)
-            c.sell_consider();
+    // The first customer meets every item as it stands; the rest of the crowd meets the
+    // same chances, so they are kept rather than worked out again for every customer.
+    std::array<double, itemCount> chances{};
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        chances[i] = items_[i].considerChance();
+        items_[i].sell_consider(chances[i]);
+    }
+    for (int v = 1; v < visitors; ++v)
+        for (std::size_t i = 0; i < items_.size(); ++i)
+            items_[i].sell_consider(chances[i]);
     for (Concession& c : items_)
         c.updateMyListing();
     showSalesTotals();

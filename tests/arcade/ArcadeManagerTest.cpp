@@ -87,6 +87,31 @@ TEST_F(Room, BrokenMachineIsSkippedWithoutShiftingChances) {
     EXPECT_EQ(two.TotalPlays, 1);
 }
 
+// A breakdown halfway through a crowd: the broken machine draws no more rolls, unless
+// auto-repair mends it at once, and then it plays on at the crowd's lowered chance.
+TEST_F(Room, AMachineThatBreaksMidCrowdPlaysOnOnlyWhenRepairedAtOnce) {
+    for (const bool autoRepair : {false, true}) {
+        SCOPED_TRACE(autoRepair ? "auto-repair" : "no auto-repair");
+        am().setAutoRepair(autoRepair);
+        g().finances.setFunds(1000);
+        while (am().getMachineCount() > 0)
+            am().removeFromMyGames(1);
+        arcade& one = addMachine(title(1, "One", 10));
+        arcade& two = addMachine(title(2, "Two", 10));
+        g().math.percentarcade = 2; // a crowd of 100: two visitors
+        g().rng.force({roll(10), 0.0, roll(9), 0.9}); // visitor 1: one breaks, two plays
+        if (autoRepair)
+            g().rng.force({roll(8), 0.9, roll(7), 0.9}); // visitor 2 plays both
+        else
+            g().rng.force({roll(8), 0.9}); // visitor 2 plays two only
+        am().doArcadeBusiness(100);
+        EXPECT_EQ(g().rng.forcedLeft(), 0u);
+        EXPECT_EQ(one.TotalPlays, autoRepair ? 2 : 1);
+        EXPECT_EQ(one.getIamBroke(), !autoRepair);
+        EXPECT_EQ(two.TotalPlays, 2);
+    }
+}
+
 TEST_F(Room, AveragePopularityIsFloored) {
     EXPECT_EQ(am().getAveragePop(), 0);
     EXPECT_EQ(am().getMachineCount(), 0);
