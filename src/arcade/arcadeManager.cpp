@@ -50,9 +50,7 @@ void arcadeManager::initArcades() {
 void arcadeManager::loadGamesList() {
     allGames.clear();
     const std::string path = game_.dataPath("games.lst");
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: " + path);
+    std::ifstream file = openTextFile(path);
     LineReader in(file, path);
     std::string line;
     while (in.readLine(line)) {

@@ -1,6 +1,15 @@
 #include "core/LineReader.h"
 
+#include "core/GameError.h"
+
 namespace zorvane {
+
+std::ifstream openTextFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (path.empty() || !file)
+        throw GameError(GameError::Kind::FileNotFound, "file not found: " + path);
+    return file;
+}
 
 bool LineReader::readLine(std::string& line) {
     line.clear();

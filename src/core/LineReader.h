@@ -1,4 +1,5 @@
 #pragma once
+#include <fstream>
 #include <istream>
 #include <string>
 
@@ -23,6 +24,10 @@ private:
     std::string name_;
     int line_ = 0;
 };
+
+// Opens a file for reading; one that cannot be opened (or an empty path) is the game's
+// file-not-found error, naming the path.
+std::ifstream openTextFile(const std::string& path);
 
 // Writes the lines of a saved game, each ended by CR LF.
 class LineWriter {

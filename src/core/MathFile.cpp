@@ -249,9 +249,7 @@ void MathFile::loadMath(Game& game, std::string& path) {
         storedPath_ = path;
     else
         path = storedPath_;
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: '" + path + "'");
+    std::ifstream file = openTextFile(path);
     LineReader reader(file, path);
     std::string line, key, value;
     while (reader.readLine(line)) {

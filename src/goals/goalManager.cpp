@@ -17,9 +17,7 @@ void goalManager::loadGoals() {
     lastGoal = 0;
     goals[0].init(*this, "Free Play", "", 0, 0, "Play without any goals");
     const std::string path = game_.dataPath("goals.cfg");
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: " + path);
+    std::ifstream file = openTextFile(path);
     LineReader in(file, path);
     std::string line;
     while (in.readLine(line)) {

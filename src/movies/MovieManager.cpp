@@ -56,9 +56,7 @@ bool MovieManager::sharesObject(int myIndex, int catalogueIndex) const {
 // and a fresh popularity (so titles are priced anew at every program start).
 void MovieManager::loadMovieList() {
     const std::string path = game_.dataPath("movies.lst");
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: '" + path + "'");
+    std::ifstream file = openTextFile(path);
     LineReader in(file, "movies.lst");
     std::string line;
     while (in.readLine(line)) {

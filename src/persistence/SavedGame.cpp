@@ -122,9 +122,7 @@ void SavedGame::loadGame(const std::string& path) {
 // tag only when, lower-cased, it equals the tag exactly: a trailing blank hides the section,
 // whose lines are then skipped one by one.
 void SavedGame::readAll(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (path.empty() || !file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: " + path);
+    std::ifstream file = openTextFile(path);
     LineReader in(file, path);
     bool versionOk = false;
     std::string line;

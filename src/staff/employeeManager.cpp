@@ -120,9 +120,7 @@ void employeeManager::positionsSetup() {
 // Reads every candidate of employees.cfg. The file must exist.
 void employeeManager::loadEmployeeDatabase() {
     const std::string path = game_.dataPath("employees.cfg");
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw GameError(GameError::Kind::FileNotFound, "file not found: " + path);
+    std::ifstream file = openTextFile(path);
     LineReader in(file, "employees.cfg");
     std::string line;
     while (in.readLine(line)) {

@@ -51,17 +51,8 @@ struct PortGame {
     std::unique_ptr<Game> game;
 
     explicit PortGame(const std::string& folder, std::uint64_t seed = 1,
-                      const std::string& arg = "") {
-        GameSetup setup;
-        setup.folder = folder;
-        setup.commandLine = arg;
-        setup.executable = folder + "/zorvane";
-        setup.seed = seed;
-        setup.screen = &screen;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        game = std::make_unique<Game>(std::move(setup));
-    }
+                      const std::string& arg = "")
+        : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
     Game* operator->() { return game.get(); }
     Game& operator*() { return *game; }
 };

@@ -60,7 +60,9 @@ int RecordingScreen::count(const std::string& line) const {
     return n;
 }
 
-TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg) {
+std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
+                               const std::string& arg, ScreenPort& screen, DialogPort& dialogs,
+                               SettingsPort& settings) {
     GameSetup setup;
     setup.folder = folder;
     setup.commandLine = arg;
@@ -69,7 +71,10 @@ TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::str
     setup.screen = &screen;
     setup.dialogs = &dialogs;
     setup.settings = &settings;
-    game = std::make_unique<Game>(std::move(setup));
+    return std::make_unique<Game>(std::move(setup));
 }
+
+TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg)
+    : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
 
 } // namespace zorvane::test

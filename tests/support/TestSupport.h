@@ -59,6 +59,12 @@ public:
     int count(const std::string& line) const;
 };
 
+// A game in `folder` on the given ports, started as the program would be with `arg` as its
+// one command-line argument.
+std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
+                               const std::string& arg, ScreenPort& screen, DialogPort& dialogs,
+                               SettingsPort& settings);
+
 struct TestGame {
     RecordingScreen screen;
     ScriptedDialogs dialogs;
