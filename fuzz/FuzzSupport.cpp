@@ -145,6 +145,13 @@ void startRichGame(Game& game) {
     game.finances.setFunds(1e9);
 }
 
+std::string writeInput(const std::string& name, const std::uint8_t* data, std::size_t size) {
+    const FuzzFolder& folder = FuzzFolder::instance();
+    static const bool trimmed = (folder.trimCatalogues(40), true);
+    (void)trimmed;
+    return folder.write(name, data, size);
+}
+
 namespace {
 
 std::string saveSections(Game& game, std::initializer_list<const char*> tags) {

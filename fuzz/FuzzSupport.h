@@ -37,6 +37,10 @@ class FuzzFolder {
     std::string path_;
 };
 
+// Writes an input as the named file of the fuzz folder, the catalogues cut to 40 entries
+// (once per process, see trimCatalogues); returns the file's path.
+std::string writeInput(const std::string& name, const std::uint8_t* data, std::size_t size);
+
 // Questions answered without a player: the YesNo questions get `yesNo`, the others Cancel
 // where offered, else OK. Input boxes and file dialogs are cancelled.
 class FuzzDialogs : public DialogPort {

@@ -12,10 +12,7 @@ using namespace zorvane;
 using namespace zorvane::fuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const FuzzFolder& folder = FuzzFolder::instance();
-    static const bool trimmed = (folder.trimCatalogues(40), true);
-    (void)trimmed;
-    folder.write("employees.cfg", data, size);
+    writeInput("employees.cfg", data, size);
     FuzzGame game;
     bool played = false;
     runInput([&] {

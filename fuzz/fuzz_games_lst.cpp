@@ -27,10 +27,7 @@ void fillTheRoom(Game& game) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const FuzzFolder& folder = FuzzFolder::instance();
-    static const bool trimmed = (folder.trimCatalogues(40), true);
-    (void)trimmed;
-    folder.write("games.lst", data, size);
+    writeInput("games.lst", data, size);
     FuzzGame game;
     bool played = false;
     runInput([&] {

@@ -35,10 +35,7 @@ void playABit(Game& game) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const FuzzFolder& folder = FuzzFolder::instance();
-    static const bool trimmed = (folder.trimCatalogues(40), true);
-    (void)trimmed;
-    folder.write("math.txt", data, size);
+    writeInput("math.txt", data, size);
     FuzzGame game;
     game.dialogs.yesNo = Answer::Yes;
     return runInput([&] {

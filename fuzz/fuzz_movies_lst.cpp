@@ -30,10 +30,7 @@ void bookEverything(Game& game) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const FuzzFolder& folder = FuzzFolder::instance();
-    static const bool trimmed = (folder.trimCatalogues(40), true);
-    (void)trimmed;
-    folder.write("movies.lst", data, size);
+    writeInput("movies.lst", data, size);
     FuzzGame game;
     bool played = false;
     runInput([&] {

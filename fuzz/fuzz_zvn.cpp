@@ -8,10 +8,8 @@
 #include "FuzzSupport.h"
 #include "SaveCompare.h"
 
-#include "core/LineReader.h"
 #include "core/Toolbox.h"
 
-#include <fstream>
 #include <map>
 
 using namespace zorvane;
@@ -19,44 +17,18 @@ using namespace zorvane::fuzz;
 
 namespace {
 
-// The container's read loop with nothing swallowed, so the target learns whether the file
-// read to its end: every open tag runs its section's reader, <version> sets the flag.
+// The load as "Open Theater" runs it, with nothing swallowed, so the target learns whether
+// the file read to its end.
 void readStrictly(Game& game, const std::string& path) {
     game.savedPath = path;
     game.logBox.clear();
     game.gameLog("Loading " + path, 0);
-    std::ifstream file(path, std::ios::binary);
-    LineReader in(file, path);
-    bool versionOk = false;
-    std::string line;
-    while (in.readLine(line)) {
-        const std::string tag = toLower(line);
-        if (tag == "<version>") {
-            versionOk = SavedGame::readVersionSection(in);
-            continue;
-        }
-        for (const SavedGame::Section& s : SavedGame::sections()) {
-            if (tag == s.tag) {
-                s.load(game, in);
-                break;
-            }
-        }
-    }
-    if (!versionOk)
-        game.dialogs().ask(SavedGame::versionMessage, Buttons::Ok);
+    game.files.readAll(path);
 }
 
-// The container's write, with its error let through: a game that loaded must save.
+// The save with its error let through: a game that loaded must save.
 std::string saveStrictly(Game& game, const std::string& path) {
-    {
-        std::ofstream file(path, std::ios::binary | std::ios::trunc);
-        LineWriter out(file);
-        out << "<version>";
-        out << "programVersion=" + Game::programVersion;
-        out << "</version>";
-        for (const SavedGame::Section& s : SavedGame::sections())
-            s.save(game, out);
-    }
+    game.files.writeAll(path);
     return readFile(path);
 }
 
@@ -94,9 +66,7 @@ void explainDifference(const std::string& input, const std::string& first,
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const FuzzFolder& folder = FuzzFolder::instance();
-    static const bool trimmed = (folder.trimCatalogues(40), true);
-    (void)trimmed;
-    const std::string input = folder.write("input.zvn", data, size);
+    const std::string input = writeInput("input.zvn", data, size);
     const std::string first = folder.file("first.zvn");
     const std::string second = folder.file("second.zvn");
     FuzzGame loaded;

@@ -42,12 +42,15 @@ class SavedGame {
     // The sections after <version>, in the order of writing.
     static const std::vector<Section>& sections();
 
-    Game& game() { return game_; }
-
-  private:
+    // The container's write and read themselves, with their run-time errors let through
+    // (the commands above swallow them); for checks that must know whether a file read or
+    // wrote to its end.
     void writeAll(const std::string& path);
     void readAll(const std::string& path);
 
+    Game& game() { return game_; }
+
+  private:
     Game& game_;
 };
 
