@@ -259,13 +259,14 @@ def hair5():
 def hair6():
     """Blonde bob with a straight fringe, chin length."""
     c, hi = "#E0AE48", "#F6D37A"
-    d = ("M60 20 C38 20 27 36 28 58 C28 74 27 84 30 92 C36 94 41 92 42 88 "
-         "C38 78 38 66 39 56 L38 48 C50 49 70 49 82 48 L81 56 "
-         "C82 66 82 78 78 88 C79 92 84 94 90 92 C93 84 92 74 92 58 "
-         "C93 36 82 20 60 20 Z")
-    fringe = path("M46 48 L47 40 M56 49 L56 40 M66 49 L66 40 M75 48 L74 41", "none",
+    d = ("M60 19 C37 19 25 35 25 57 C25 73 24 84 28 93 C35 95 41 93 42 89 "
+         "C38 78 38 66 39 56 L38 49 C50 50 70 50 82 49 L81 56 "
+         "C82 66 82 78 78 89 C79 93 85 95 92 93 C96 84 95 73 95 57 "
+         "C95 35 83 19 60 19 Z")
+    fringe = path("M47 49 C47 45 48 42 50 40 M57 50 C57 46 58 43 60 41 "
+                  "M67 50 C67 46 66 43 64 41 M76 49 C76 46 75 43 73 41", "none",
                   stroke="#B8862C", width=1.5)
-    shine = path("M40 34 C46 27 54 24 62 24", "none", stroke=hi, width=3)
+    shine = path("M38 34 C44 27 52 24 60 23", "none", stroke=hi, width=3)
     return path(d, c) + fringe + shine
 
 
