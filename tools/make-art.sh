@@ -39,8 +39,8 @@ render_gif() { # svg gif zoom
 }
 
 # The generated SVGs first: the street scenes and the arcade.
-python3 "$pictures/scenes.py"
-python3 "$pictures/arcades/cabinets.py"
+python3 -B "$pictures/scenes.py"
+python3 -B "$pictures/arcades/cabinets.py"
 
 # Every hand-drawn picture, same folder layout as data/images/.
 while IFS= read -r svg; do
