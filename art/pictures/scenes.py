@@ -144,7 +144,7 @@ def theater(lit, rng=None):
     out.append(f'<rect class="o" x="144" y="104" width="352" height="12" fill="{BRASS}"/>')
     # windows of the projection booth above the marquee
     for wx in (212, 304, 396):
-        out.append(f'<rect class="o" x="{wx}" y="126" width="32" height="22" rx="11" '
+        out.append(f'<rect class="o" x="{wx}" y="122" width="32" height="20" rx="10" '
                    f'fill="{POPCORN if lit else NIGHT}"/>')
     # entrance
     out.append(f'<rect class="o" x="174" y="262" width="292" height="{STREET - 262}" fill="{INK}"/>')
@@ -164,18 +164,18 @@ def theater(lit, rng=None):
     out.append(f'<rect class="o" x="288" y="372" width="64" height="8" fill="{WINE}"/>')
     out.append(f'<rect class="o" x="292" y="380" width="56" height="{STREET - 380}" fill="{CURTAIN}"/>')
     # marquee
-    out.append(f'<rect class="o" x="104" y="156" width="432" height="100" rx="6" fill="{BRASS}"/>')
-    out.append(f'<rect class="o" x="114" y="166" width="412" height="80" rx="4" fill="{NAVY}"/>')
-    out.append(f'<rect class="o" x="146" y="178" width="348" height="56" rx="2" '
+    out.append(f'<rect class="o" x="104" y="150" width="432" height="112" rx="6" fill="{BRASS}"/>')
+    out.append(f'<rect class="o" x="114" y="160" width="412" height="92" rx="4" fill="{NAVY}"/>')
+    out.append(f'<rect class="o" x="146" y="174" width="348" height="64" rx="2" '
                f'fill="{CREAM if lit else "#B9AE93"}"/>')
-    out.append(f'<rect class="hi" x="110" y="160" width="420" height="4" rx="2"/>')
-    out.append(f'<path class="o" d="M120,256 H520 L506,270 H134 Z" fill="{INK}"/>')
+    out.append(f'<rect class="hi" x="110" y="154" width="420" height="4" rx="2"/>')
+    out.append(f'<path class="o" d="M120,262 H520 L506,274 H134 Z" fill="{INK}"/>')
     gone = set()
     if not lit and rng is not None:
         gone = {i for i in range(60) if rng.random() < 0.2}
     k = 0
     for x in range(126, 520, 18):
-        for y in (172, 240):
+        for y in (166, 246):
             if k not in gone:
                 out.append(bulb(x, y, lit))
             else:
@@ -185,6 +185,20 @@ def theater(lit, rng=None):
         out.append(bulb(128, y, lit))
         out.append(bulb(512, y, lit))
     return "\n".join(out) + "\n"
+
+
+def person(x, coat, hat=False, base=STREET + 24):
+    """A moviegoer seen from behind, facing the theater: coat, legs, the back of the head."""
+    out = [f'<rect class="o" x="{x - 6}" y="{base - 14}" width="5" height="14" fill="{INK}"/>',
+           f'<rect class="o" x="{x + 1}" y="{base - 14}" width="5" height="14" fill="{INK}"/>',
+           f'<path class="o" d="M{x - 10},{base - 10} L{x - 8},{base - 34} C{x - 8},{base - 41} '
+           f'{x + 8},{base - 41} {x + 8},{base - 34} L{x + 10},{base - 10} Z" fill="{coat}"/>',
+           f'<circle class="o" cx="{x}" cy="{base - 45}" r="7" fill="{INK}"/>']
+    if hat:
+        out.append(f'<rect class="o" x="{x - 11}" y="{base - 50}" width="22" height="4" rx="2" fill="{NAVY}"/>'
+                   f'<path class="o" d="M{x - 6},{base - 49} V{base - 57} H{x + 6} V{base - 49} Z" '
+                   f'fill="{NAVY}"/>')
+    return "".join(out) + "\n"
 
 
 def sidewalk():
@@ -200,7 +214,8 @@ def title():
             stars(rng, 70, clear_of=(530, 30, 600, 100)), moon(), neighbours(rng, 0.55),
             sidewalk(),
             theater(True), lamp(70, True), lamp(570, True),
-            wordmark("Zorvane", 320 - word_width("Zorvane") * 0.82 / 2, 224, 0.82, CURTAIN)]
+            person(306, TEAL, hat=True), person(332, CURTAIN), person(470, BRASS, base=STREET + 40),
+            wordmark("Zorvane", 320 - word_width("Zorvane") * 0.86 / 2, 227, 0.86, CURTAIN)]
     return svg(W, H, "".join(body), "Zorvane: the theater on a quiet night")
 
 
@@ -254,8 +269,11 @@ def goal():
             body.append(f'<rect class="o" x="{x - 3}" y="{y - 20}" width="6" height="22" fill="{BRASS}"/>\n'
                         f'<circle class="o" cx="{x}" cy="{y - 22}" r="5" fill="{POPCORN}"/>\n'
                         f'<rect class="o" x="{x - 8}" y="{y}" width="16" height="5" rx="2" fill="{BRASS}"/>\n')
-    body += [lamp(70, True), lamp(570, True), confetti(rng, 90),
-             wordmark("Zorvane", 320 - word_width("Zorvane") * 0.82 / 2, 224, 0.82, CURTAIN)]
+    body += [lamp(70, True), lamp(570, True),
+             person(200, TEAL, hat=True), person(224, CURTAIN, base=STREET + 30),
+             person(430, BRASS, base=STREET + 30), person(456, TEAL),
+             confetti(rng, 90),
+             wordmark("Zorvane", 320 - word_width("Zorvane") * 0.86 / 2, 227, 0.86, CURTAIN)]
     return svg(W, H, "".join(body), "Zorvane: a gala night, the goal is reached")
 
 
@@ -290,7 +308,7 @@ def lose():
                 f'H150 V256 H104 V156 H144 V104 H236 Z" '
                 f'fill="{NIGHT}" opacity="0.4"/>\n')
     # the name with a letter come loose, the "v" lying on the sidewalk
-    body.append(wordmark("Zorvane", 320 - word_width("Zorvane") * 0.82 / 2, 224, 0.82, WINE,
+    body.append(wordmark("Zorvane", 320 - word_width("Zorvane") * 0.86 / 2, 227, 0.86, WINE,
                          skew={6: (6, 10, 24)}, missing=(3,)))
     body.append(f'<g transform="translate(420,{STREET + 26}) rotate(-80) scale(0.82)">'
                 f'<path d="M0,-36 L16,0 L32,-36" fill="none" stroke="{INK}" stroke-width="15" '
