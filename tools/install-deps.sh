@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages Zorvane needs to build and test, if any are missing.
-# Usage: tools/install-deps.sh [game|fuzz]   ("game" adds the Qt 6 packages of the window,
-#        "fuzz" the clang compiler and runtime that the libFuzzer targets of fuzz/ build with)
+# Usage: tools/install-deps.sh [game|fuzz|art]   ("game" adds the Qt 6 packages of the window,
+#        "fuzz" the clang compiler and runtime that the libFuzzer targets of fuzz/ build with,
+#        "art" the tools tools/make-art.sh draws the pictures with)
 set -euo pipefail
 
 packages=(build-essential cmake g++ pkg-config
@@ -9,6 +10,9 @@ packages=(build-essential cmake g++ pkg-config
           libcli11-dev nlohmann-json3-dev)
 if [[ "${1:-}" == "game" ]]; then
     packages+=(qt6-base-dev qt6-multimedia-dev)
+fi
+if [[ "${1:-}" == "art" ]]; then
+    packages+=(python3 librsvg2-bin imagemagick)
 fi
 if [[ "${1:-}" == "fuzz" ]]; then
     packages+=(clang-14 libclang-rt-14-dev)
