@@ -70,7 +70,7 @@ static void BM_loadEmployeeDatabase(benchmark::State& state) {
         setup.folder = dir.string();
         Game game(std::move(setup));
         std::string math = game.dataPath("math.txt");
-        game.mathFile.loadMath(game, math);
+        game.mathFile.loadMath(game.math, game.dialogs(), math);
         state.ResumeTiming();
         game.employees.loadEmployeeDatabase();
     }

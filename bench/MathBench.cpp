@@ -1,4 +1,4 @@
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,7 +11,7 @@ static void BM_loadMath(benchmark::State& state) {
     Game game(std::move(setup));
     for (auto _ : state) {
         std::string path = game.dataPath("math.txt");
-        game.mathFile.loadMath(game, path);
+        game.mathFile.loadMath(game.math, game.dialogs(), path);
         benchmark::DoNotOptimize(game.math.gamespeed[1]);
     }
 }

@@ -113,7 +113,7 @@ const MathVars& shippedMath() {
     static const MathVars math = [] {
         FuzzGame g;
         std::string path = std::string(ZORVANE_SOURCE_DATA) + "/math.txt";
-        g->mathFile.loadMath(*g, path);
+        g->mathFile.loadMath(g->math, g->dialogs(), path);
         return g->math;
     }();
     return math;

@@ -1,6 +1,6 @@
 #pragma once
-#include "core/Game.h"
 #include "core/GameError.h"
+#include "session/Game.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 #include "core/DialogPort.h"
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <functional>
 #include <map>
@@ -14,7 +14,7 @@ namespace zorvane::sim {
 // A script line the simulator cannot understand: nothing of it is done, and the run ends
 // with status 2 naming the line.
 class ScriptError : public std::runtime_error {
-public:
+  public:
     using std::runtime_error::runtime_error;
 };
 
@@ -34,8 +34,8 @@ struct Args {
 
     std::size_t size() const { return words.size(); }
     const std::string& operator[](std::size_t i) const { return words.at(i); }
-    int integer(std::size_t i) const;              // a whole number, or ScriptError
-    std::string textFrom(std::size_t word) const;  // the line's rest from word `word` on
+    int integer(std::size_t i) const;             // a whole number, or ScriptError
+    std::string textFrom(std::size_t word) const; // the line's rest from word `word` on
 };
 
 struct Command {

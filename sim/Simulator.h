@@ -1,6 +1,6 @@
 #pragma once
 #include "Commands.h"
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <iosfwd>
 #include <memory>
@@ -19,12 +19,12 @@ struct SimOptions {
 
 // The screen of a headless game: log lines are echoed as they are written.
 class EchoScreen : public ScreenPort {
-public:
+  public:
     EchoScreen(std::ostream& out, bool quiet, std::vector<std::string>& unread)
         : out_(out), quiet_(quiet), unread_(unread) {}
     void logLine(const std::string& line, bool) override;
 
-private:
+  private:
     std::ostream& out_;
     bool quiet_;
     std::vector<std::string>& unread_;
@@ -32,7 +32,7 @@ private:
 
 // Runs a script against one game: start-up, "Play !", then the commands in order.
 class Simulator {
-public:
+  public:
     Simulator(SimOptions options, std::ostream& out);
 
     // Queues the answer/input/file lines that stand before any other command, so that a
@@ -47,7 +47,7 @@ public:
     Game& game() { return *game_; }
     ScriptedDialogs& dialogs() { return dialogs_; }
 
-private:
+  private:
     SimOptions options_;
     std::ostream& out_;
     std::vector<std::string> unreadLog_;

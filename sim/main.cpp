@@ -3,7 +3,7 @@
 #include "lab/Lab.h"
 #include "lab/Strategy.h"
 
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <CLI/CLI.hpp>
 
@@ -37,12 +37,13 @@ int main(int argc, char** argv) {
     sim::SimOptions options;
     std::string script = "-";
     std::uint64_t seed = 0;
-    app.add_option("--data", options.dataDir, "the program's folder (math.txt, lists, images, sounds)");
+    app.add_option("--data", options.dataDir,
+                   "the program's folder (math.txt, lists, images, sounds)");
     app.add_option("--arg", options.arg, "the game's one command-line argument (.zvn or .mth)");
     auto* seedOpt = app.add_option("--seed", seed, "seed of the game's random generator");
     app.add_option("--goal", options.goal, "goal list index chosen at \"Play !\" (0: Free Play)");
     app.add_flag("--quiet", options.quiet, "print only what commands ask for");
-    app.set_version_flag("--version", "zorvane-sim " + Game::programVersion);
+    app.set_version_flag("--version", "zorvane-sim " + programVersion());
     app.add_option("script", script, "script file; standard input when absent or -");
 
     lab::LabOptions labOptions;
@@ -50,12 +51,14 @@ int main(int argc, char** argv) {
     auto* labOpt = app.add_option("--lab", labOptions.strategy,
                                   "balance lab: play many games with a built-in strategy")
                        ->check(CLI::IsMember(lab::strategyNames()));
-    app.add_option("--games", labOptions.games, "lab: number of games")->check(CLI::Range(1, 1000000));
+    app.add_option("--games", labOptions.games, "lab: number of games")
+        ->check(CLI::Range(1, 1000000));
     app.add_option("--years", labOptions.years, "lab: game years each")->check(CLI::Range(1, 1000));
     app.add_option("--threads", labOptions.threads, "lab: threads (default: all cores)")
         ->check(CLI::Range(1, 1024));
     app.add_option("--csv", csvPath, "lab: write one row per game and month to this file");
-    app.add_option("--chart", chartPath, "lab: draw the month-end funds fan chart to this SVG file");
+    app.add_option("--chart", chartPath,
+                   "lab: draw the month-end funds fan chart to this SVG file");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {

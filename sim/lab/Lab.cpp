@@ -1,8 +1,8 @@
 #include "Lab.h"
 
 #include "Strategy.h"
-#include "core/Game.h"
 #include "core/GameError.h"
+#include "session/Game.h"
 
 #include <algorithm>
 #include <atomic>

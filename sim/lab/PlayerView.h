@@ -1,5 +1,5 @@
 #pragma once
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <string>
 #include <vector>

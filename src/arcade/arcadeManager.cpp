@@ -1,9 +1,9 @@
 #include "arcade/arcadeManager.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 #include <fstream>
 
@@ -265,8 +265,8 @@ void arcadeManager::doArcadeBusiness(int count) {
     offers_.clear();
     for (const auto& machine : myGames) {
         const bool broken = machine->getIamBroke();
-        offers_.push_back({machine.get(), broken ? arcade::PlayTerms{} : machine->playTerms(),
-                           broken});
+        offers_.push_back(
+            {machine.get(), broken ? arcade::PlayTerms{} : machine->playTerms(), broken});
     }
     const int playedMod = game_.math.arcadeplaychanceplayedmod;
     Random& rng = game_.rng;

@@ -1,8 +1,8 @@
 #include "building/buildingManager.h"
 
-#include "core/Game.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

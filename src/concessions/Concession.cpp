@@ -1,9 +1,9 @@
 #include "concessions/Concession.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 #include <algorithm>
 
@@ -66,7 +66,9 @@ void Concession::sell() {
 
 // One customer's decision: the chance falls by concessconsidercost percent for each cent of
 // price and moves by the quality's bonus; a percent roll at or below it buys, stock or not.
-void Concession::sell_consider() { sell_consider(considerChance()); }
+void Concession::sell_consider() {
+    sell_consider(considerChance());
+}
 
 double Concession::considerChance() const {
     if (quality < 0 || quality > 3)

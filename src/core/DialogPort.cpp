@@ -1,5 +1,7 @@
 #include "core/DialogPort.h"
 
+#include "core/GameError.h"
+
 namespace zorvane {
 
 namespace {
@@ -21,9 +23,12 @@ std::string oneLine(const std::string& text) {
 
 bool offers(Buttons b, Answer a) {
     switch (b) {
-    case Buttons::Ok: return a == Answer::Ok;
-    case Buttons::YesNo: return a == Answer::Yes || a == Answer::No;
-    case Buttons::YesNoCancel: return a != Answer::Ok;
+    case Buttons::Ok:
+        return a == Answer::Ok;
+    case Buttons::YesNo:
+        return a == Answer::Yes || a == Answer::No;
+    case Buttons::YesNoCancel:
+        return a != Answer::Ok;
     }
     return false;
 }
@@ -32,10 +37,14 @@ bool offers(Buttons b, Answer a) {
 
 std::string ScriptedDialogs::answerWord(Answer a) {
     switch (a) {
-    case Answer::Yes: return "yes";
-    case Answer::No: return "no";
-    case Answer::Cancel: return "cancel";
-    case Answer::Ok: return "ok";
+    case Answer::Yes:
+        return "yes";
+    case Answer::No:
+        return "no";
+    case Answer::Cancel:
+        return "cancel";
+    case Answer::Ok:
+        return "ok";
     }
     return "?";
 }
@@ -76,7 +85,8 @@ std::string ScriptedDialogs::input(const std::string& prompt, const std::string&
     return text;
 }
 
-std::string ScriptedDialogs::chooseFile(FileMode mode, const std::string&, const std::string& title) {
+std::string ScriptedDialogs::chooseFile(FileMode mode, const std::string&,
+                                        const std::string& title) {
     std::string path;
     if (!files.empty()) {
         path = files.front();
@@ -85,6 +95,11 @@ std::string ScriptedDialogs::chooseFile(FileMode mode, const std::string&, const
     transcript(std::string(mode == FileMode::Open ? "open" : "save") + " file: " + oneLine(title) +
                " -> " + path);
     return path;
+}
+
+void endProcess(DialogPort& dialogs, const std::string& why) {
+    dialogs.endProcess(why);
+    throw ProcessEnded(why);
 }
 
 } // namespace zorvane

@@ -12,7 +12,7 @@ enum class FileMode { Open, Save };
 
 // The questions the game asks the player, and the few things it asks of the platform.
 class DialogPort {
-public:
+  public:
     virtual ~DialogPort() = default;
 
     // A message box; returns the button pressed.
@@ -31,18 +31,21 @@ public:
     virtual void endProcess(const std::string&) {}
 };
 
+// Ends the process for the reason given: the port's endProcess, then ProcessEnded.
+[[noreturn]] void endProcess(DialogPort& dialogs, const std::string& why);
+
 // Answers from queues: the simulator's script and the tests fill them. With nothing queued,
 // a question gets Cancel where offered, else No, else OK; an input box and a file dialog
 // are cancelled.
 class ScriptedDialogs : public DialogPort {
-public:
+  public:
     std::deque<Answer> answers;
     std::deque<std::string> inputs;
     std::deque<std::string> files;
 
     // Every question, input and file request as it was answered: "ask: text -> answer".
     std::function<void(const std::string&)> onTranscript;
-    std::vector<std::string> asked;  // the texts of the message boxes, in order
+    std::vector<std::string> asked;   // the texts of the message boxes, in order
     std::vector<std::string> started; // processes started
     std::vector<std::string> helpTopics;
 
@@ -56,7 +59,7 @@ public:
 
     static std::string answerWord(Answer a);
 
-private:
+  private:
     void transcript(const std::string& line);
 };
 

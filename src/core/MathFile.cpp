@@ -1,9 +1,10 @@
 #include "core/MathFile.h"
 
-#include "core/Game.h"
+#include "core/DialogPort.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "core/Version.h"
 
 #include <fstream>
 #include <unordered_map>
@@ -15,7 +16,7 @@ namespace {
 using Kind = MathKey::Kind;
 
 class TableBuilder {
-public:
+  public:
     std::vector<MathKey> keys;
 
     template <typename F> void add(std::string key, Kind kind, F target) {
@@ -23,8 +24,8 @@ public:
     }
     // key = prefix + index + suffix, for index first..last, stored in array[index].
     template <typename F>
-    void range(const std::string& prefix, int first, int last, const std::string& suffix,
-               Kind kind, const std::string& array, F element) {
+    void range(const std::string& prefix, int first, int last, const std::string& suffix, Kind kind,
+               const std::string& array, F element) {
         for (int i = first; i <= last; ++i)
             keys.push_back({prefix + std::to_string(i) + suffix, kind, array, i, -1,
                             [element, i](MathVars& m) -> void* { return element(m, i); }});
@@ -85,16 +86,16 @@ std::vector<MathKey> buildTable() {
     for (int n = 0; n <= 4; ++n)
         for (int q = 0; q <= 2; ++q)
             t.keys.push_back({"concess" + std::to_string(n) + "qual" + std::to_string(q), T,
-                              "concessqual", n, q, [n, q](MathVars& m) -> void* {
-                                  return &m.concessqual[n][q];
-                              }});
+                              "concessqual", n, q,
+                              [n, q](MathVars& m) -> void* { return &m.concessqual[n][q]; }});
     t.range("concess", 0, 4, "price", D, "concessprice", ELEMENT(concessprice));
     t.range("concess", 0, 4, "cost", D, "concesscost", ELEMENT(concesscost));
     t.range("concess", 0, 4, "qualinit", I, "concessqualinit", ELEMENT(concessqualinit));
     t.range("concess", 0, 4, "buy", Kind::Strict16, "concessbuy", ELEMENT(concessbuy));
     t.add("concessqualcost", D, FIELD(concessqualcost));
     t.add("concessconsidercost", D, FIELD(concessconsidercost));
-    t.range("concessconsiderqual", 0, 2, "", D, "concessconsiderqual", ELEMENT(concessconsiderqual));
+    t.range("concessconsiderqual", 0, 2, "", D, "concessconsiderqual",
+            ELEMENT(concessconsiderqual));
     // Money and prices
     t.add("initfunds", D, FIELD(initfunds));
     t.add("ticketsmatinee", D, FIELD(ticketsmatinee));
@@ -204,13 +205,14 @@ const std::vector<MathKey>& mathKeys() {
     return table;
 }
 
-void MathFile::apply(Game& game, const std::string& key, const std::string& value) {
+void MathFile::apply(MathVars& math, DialogPort& dialogs, const std::string& key,
+                     const std::string& value) {
     const auto& index = keyIndex();
     const auto it = index.find(key);
     if (it == index.end())
         return; // unknown keys, and the empty key before the first entry, match nothing
     const MathKey& k = *it->second;
-    void* target = k.target(game.math);
+    void* target = k.target(math);
     switch (k.kind) {
     case Kind::Int16:
         *static_cast<zorvane::Int16*>(target) = toInt16(leadingNumber(value));
@@ -231,20 +233,20 @@ void MathFile::apply(Game& game, const std::string& key, const std::string& valu
         break;
     case Kind::Version: {
         const std::string written = trimRight(value);
-        if (written != Game::programVersion) {
-            const std::string question = "Math file '" + storedPath_ + "' was written for version '" +
-                                         written + "' but this is version '" +
-                                         Game::programVersion +
+        if (written != programVersion()) {
+            const std::string question = "Math file '" + storedPath_ +
+                                         "' was written for version '" + written +
+                                         "' but this is version '" + programVersion() +
                                          "' proceed with loading variables from this math file?";
-            if (game.dialogs().ask(question, Buttons::YesNo) == Answer::No)
-                game.endProcess("the math file's version was refused");
+            if (dialogs.ask(question, Buttons::YesNo) == Answer::No)
+                endProcess(dialogs, "the math file's version was refused");
         }
         break;
     }
     }
 }
 
-void MathFile::loadMath(Game& game, std::string& path) {
+void MathFile::loadMath(MathVars& math, DialogPort& dialogs, std::string& path) {
     if (!path.empty())
         storedPath_ = path;
     else
@@ -266,7 +268,7 @@ void MathFile::loadMath(Game& game, std::string& path) {
             value = line.substr(eq + 1);
         }
         try {
-            apply(game, key, value);
+            apply(math, dialogs, key, value);
         } catch (const GameError& e) {
             throw GameError(e.kind(), reader.where() + "key '" + key + "': " + e.what());
         }

@@ -7,18 +7,18 @@
 
 namespace zorvane {
 
-class Game;
+class DialogPort;
 
 // One key of math.txt: its name, how its text becomes a value, and where it is stored.
 struct MathKey {
     enum class Kind {
-        Int16,       // leading number, rounded half to even, overflow fatal
-        Floor16,     // leading number, floored (emphours)
-        Strict16,    // the whole value must be a number, then floored (concessNbuy)
-        Double,      // leading number
-        Text,        // trailing blanks removed
-        Ignored,     // accepted and thrown away
-        Version,     // mathver: compared with the program's version, not stored
+        Int16,    // leading number, rounded half to even, overflow fatal
+        Floor16,  // leading number, floored (emphours)
+        Strict16, // the whole value must be a number, then floored (concessNbuy)
+        Double,   // leading number
+        Text,     // trailing blanks removed
+        Ignored,  // accepted and thrown away
+        Version,  // mathver: compared with the program's version, not stored
     };
     std::string key;
     Kind kind;
@@ -33,15 +33,16 @@ const std::vector<MathKey>& mathKeys();
 
 // Reads math.txt (or a .mth file) into the game's math variables.
 class MathFile {
-public:
+  public:
     // Reads the file. An empty path means the path of the last read, written back to it.
     // A file that cannot be opened, an int16 beyond 16 bits and a concessNbuy that is no
     // number are fatal. A mathver that differs asks whether to go on; No ends the process.
-    void loadMath(Game& game, std::string& path);
+    void loadMath(MathVars& math, DialogPort& dialogs, std::string& path);
     const std::string& storedPath() const { return storedPath_; }
 
-private:
-    void apply(Game& game, const std::string& key, const std::string& value);
+  private:
+    void apply(MathVars& math, DialogPort& dialogs, const std::string& key,
+               const std::string& value);
     std::string storedPath_;
 };
 

@@ -1,10 +1,10 @@
 #include "goals/goal.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
 #include "goals/goalManager.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

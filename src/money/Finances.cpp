@@ -1,9 +1,9 @@
 #include "money/Finances.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 namespace zorvane {
 
@@ -71,7 +71,9 @@ double Finances::getHistFunds(int index) const {
     return histfunds[static_cast<std::size_t>(index)];
 }
 
-std::string Finances::getProfit() const { return formatMoney(totalincome - totalspent); }
+std::string Finances::getProfit() const {
+    return formatMoney(totalincome - totalspent);
+}
 
 void Finances::saveFinances(LineWriter& out) const {
     out << "<finances>";
@@ -100,12 +102,14 @@ void Finances::loadFinances(LineReader& in) {
         const auto v = [&value] { return leadingNumber(value); };
         if (key.compare(0, 9, "histfunds") == 0) {
             const std::size_t open = key.find('(');
-            const std::string inside =
-                open == std::string::npos ? "" : key.substr(open + 1, key.find(')', open) - open - 1);
+            const std::string inside = open == std::string::npos
+                                           ? ""
+                                           : key.substr(open + 1, key.find(')', open) - open - 1);
             const int index = toInt16(leadingNumber(inside));
             if (index < 0 || index > 12)
                 throw GameError(GameError::Kind::Bounds, in.where() + "histfunds index " +
-                                                             std::to_string(index) + " out of range");
+                                                             std::to_string(index) +
+                                                             " out of range");
             histfunds[static_cast<std::size_t>(index)] = v();
         } else if (key == "funds") {
             funds = v();

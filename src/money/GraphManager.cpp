@@ -1,9 +1,11 @@
 #include "money/GraphManager.h"
 
-#include "core/Game.h"
+#include "session/Game.h"
 
 namespace zorvane {
 
-void GraphManager::drawGraph() { game_.screen().refresh(View::Graph); }
+void GraphManager::drawGraph() {
+    game_.screen().refresh(View::Graph);
+}
 
 } // namespace zorvane

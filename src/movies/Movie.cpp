@@ -1,9 +1,9 @@
 #include "movies/Movie.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 #include "movies/MovieTexts.h"
 
-#include "core/Game.h"
 #include "core/Numbers.h"
 #include "core/Toolbox.h"
 #include "movies/MovieManager.h"
+#include "session/Game.h"
 
 #include <cmath>
 

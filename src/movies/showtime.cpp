@@ -1,10 +1,10 @@
 #include "movies/showtime.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
 #include "movies/Demand.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

@@ -1,9 +1,9 @@
 #include "persistence/SavedGame.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 #include <fstream>
 
@@ -85,7 +85,7 @@ void SavedGame::writeAll(const std::string& path) {
         throw GameError(GameError::Kind::Io, "cannot open " + path + " for writing");
     LineWriter out(file);
     out << "<version>";
-    out << "programVersion=" + Game::programVersion;
+    out << "programVersion=" + programVersion();
     out << "</version>";
     for (const Section& s : sections())
         s.save(game_, out);
@@ -152,7 +152,7 @@ bool SavedGame::readVersionSection(LineReader& in) {
         if (splitKeyValue(line, key, value) && toLower(key) == "programversion")
             kept = value;
     }
-    return toLower(kept) == toLower(Game::programVersion);
+    return toLower(kept) == toLower(programVersion());
 }
 
 } // namespace zorvane

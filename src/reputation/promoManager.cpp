@@ -1,9 +1,9 @@
 #include "reputation/promoManager.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

@@ -1,10 +1,10 @@
 #include "reputation/ratingManager.h"
 
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
 #include "reputation/ratingTerms.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

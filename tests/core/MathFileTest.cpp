@@ -1,5 +1,5 @@
-#include "core/Game.h"
 #include "core/GameError.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ struct MathFixture : ::testing::Test {
 
     void load(const std::string& text) {
         std::string path = dir.write("math.txt", text);
-        game->mathFile.loadMath(*game, path);
+        game->mathFile.loadMath(game->math, game->dialogs(), path);
     }
 };
 
@@ -42,7 +42,7 @@ TEST_F(MathFixture, NumbersAreLeadingNumbersRoundedHalfToEven) {
     EXPECT_EQ(game->math.resalemin, 0);
     EXPECT_EQ(game->math.gamespeed[1], 100);
     EXPECT_EQ(game->math.gamespeed[2], 102);
-    EXPECT_EQ(game->math.emphours, 7);      // floored, not rounded
+    EXPECT_EQ(game->math.emphours, 7);       // floored, not rounded
     EXPECT_EQ(game->math.concessbuy[0], 12); // strict, then floored
 }
 
@@ -107,14 +107,14 @@ TEST_F(MathFixture, FatalValuesNameTheFileLineAndKey) {
 
 TEST_F(MathFixture, AMissingFileIsFatal) {
     std::string path = dir.file("nothing.txt");
-    EXPECT_THROW(game->mathFile.loadMath(*game, path), GameError);
+    EXPECT_THROW(game->mathFile.loadMath(game->math, game->dialogs(), path), GameError);
 }
 
 TEST_F(MathFixture, AnEmptyPathReadsTheStoredFileAgain) {
     load("gamespeed1=1\ngamespeed2=2\n");
     dir.write("math.txt", "gamespeed1=9\n");
     std::string empty;
-    game->mathFile.loadMath(*game, empty);
+    game->mathFile.loadMath(game->math, game->dialogs(), empty);
     EXPECT_EQ(empty, dir.file("math.txt"));
     EXPECT_EQ(game->math.gamespeed[1], 9);
     EXPECT_EQ(game->math.gamespeed[2], 2); // a key missing on reload keeps its value

@@ -1,6 +1,6 @@
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST_F(FinancesFixture, SpendRefusesWhenLessThanOneWouldRemain) {
     EXPECT_EQ(f().deplabor, 99);
     EXPECT_TRUE(f().spend(0, "labor")); // exactly 1 remains: accepted
     f().setFunds(0.5);
-    EXPECT_FALSE(f().spend(0, "labor")); // below 1 even nothing is refused
+    EXPECT_FALSE(f().spend(0, "labor"));  // below 1 even nothing is refused
     EXPECT_TRUE(f().spend(-10, "movie")); // a negative amount passes like any other
     EXPECT_EQ(f().funds, 10.5);
 }

@@ -1,8 +1,8 @@
 #pragma once
 // A game whose ports record what the file menu and the goals ask of them: the buttons of
 // each question, the file dialogs, the log box being emptied, the pictures.
-#include "core/Game.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
-#include "core/Game.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "staff/employeeManager.h"
 #include "support/TestSupport.h"
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include <filesystem>
 #include <initializer_list>
@@ -12,7 +12,7 @@ namespace zorvane::test {
 
 // A fresh folder under the system's temp folder, removed with the object.
 class TempDir {
-public:
+  public:
     TempDir();
     ~TempDir();
     TempDir(const TempDir&) = delete;
@@ -23,7 +23,7 @@ public:
     // Writes a file (binary: line ends as given).
     std::string write(const std::string& name, const std::string& content) const;
 
-private:
+  private:
     std::filesystem::path path_;
 };
 
@@ -35,7 +35,7 @@ std::string shippedData();
 // A program folder made from the shipped data, with some files replaced or added, so a
 // test can change one key of math.txt and keep the rest playable.
 class DataFolder : public TempDir {
-public:
+  public:
     DataFolder();
     // Sets (or adds) `key=value` lines at the end of math.txt: the last value wins.
     void setMath(std::initializer_list<std::pair<std::string, std::string>> entries) const;
@@ -43,7 +43,7 @@ public:
 
 // A game on a folder, with scripted dialogs and a log that records every line.
 class RecordingScreen : public ScreenPort {
-public:
+  public:
     std::vector<std::string> lines;
     std::vector<std::string> status;
     std::vector<View> refreshed;

@@ -1,6 +1,6 @@
-#include "core/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +35,8 @@ TEST_F(CalendarFixture, StartUpRunsTheFirstDay) {
     EXPECT_EQ(cal().currentweek, 0);
     EXPECT_EQ(game->screen.count(" -- Another day has arrived --"), 1);
     // The first day meets empty positions: the theater refuses business.
-    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"), 1);
+    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"),
+              1);
     EXPECT_EQ((*game)->speed, 0);
 }
 
@@ -65,7 +66,8 @@ TEST_F(CalendarFixture, EmptyPositionsRefuseBusinessOnceADayAndPause) {
     start();
     (*game)->setSpeed(2);
     days(3);
-    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"), 4);
+    EXPECT_EQ(game->screen.count("Cannot do business today: Not all employee positions are filled"),
+              4);
     EXPECT_EQ((*game)->speed, 0);
     EXPECT_EQ((*game)->lastSpeed, 2);
     EXPECT_EQ(cal().currentday, 4); // days still pass on clicks
@@ -96,10 +98,11 @@ TEST_F(CalendarFixture, SavedSectionAndItsReader) {
     EXPECT_EQ(out.str(), "<calendar>\r\ncurrentday=3\r\ncurrentweek=0\r\ncurrentmonth=1\r\n"
                          "currentyear=0\r\nonedayclose=0\r\n</calendar>\r\n");
 
-    std::istringstream in("CURRENTDAY=5.5\nx=1\n=7\ncurrentweek 2\nonedayclose= 1\n</calendar>\ncurrentyear=9\n");
+    std::istringstream in(
+        "CURRENTDAY=5.5\nx=1\n=7\ncurrentweek 2\nonedayclose= 1\n</calendar>\ncurrentyear=9\n");
     LineReader r(in, "game.zvn");
     cal().loadCalendar(r);
-    EXPECT_EQ(cal().currentday, 6); // 5.5 rounds to the even 6
+    EXPECT_EQ(cal().currentday, 6);  // 5.5 rounds to the even 6
     EXPECT_EQ(cal().currentweek, 0); // no "=": ignored, keeps its value
     EXPECT_EQ(cal().currentmonth, 1);
     EXPECT_EQ(cal().currentyear, 0); // behind the closing tag

@@ -1,36 +1,30 @@
-#include "core/Game.h"
+#include "session/Game.h"
 
 #include "core/GameError.h"
 #include "core/Toolbox.h"
 
 namespace zorvane {
 
-namespace {
-constexpr int versionMajor = 2, versionMinor = 0, versionRevision = 1;
-}
-
-const std::string Game::programVersion = std::to_string(versionMajor) + "." +
-                                         std::to_string(versionMinor) + "." +
-                                         std::to_string(versionRevision);
-
 Game::Game(GameSetup setup)
     : rng(setup.seed), calendar(*this), finances(*this), building(*this), employees(*this),
-      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this),
-      loans(*this), graph(*this), goals(*this), files(*this), setup_(std::move(setup)),
+      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this), loans(*this),
+      graph(*this), goals(*this), files(*this), setup_(std::move(setup)),
       screen_(setup_.screen ? setup_.screen : &nullScreen_),
       dialogs_(setup_.dialogs ? setup_.dialogs : &nullDialogs_),
       settings_(setup_.settings ? setup_.settings : &memorySettings_) {}
 
-void Game::status(const std::string& line) { screen_->titleStatus(line); }
+void Game::status(const std::string& line) {
+    screen_->titleStatus(line);
+}
 
 void Game::startup() {
-    status("Zorvane v" + programVersion);
+    status("Zorvane v" + programVersion());
     status("Initializing random number generator");
     rng.reseed(setup_.seed);
     status("Loading registry settings");
     std::string mathPath = getMathFile();
     status("Loading math variables from " + mathPath);
-    mathFile.loadMath(*this, mathPath);
+    mathFile.loadMath(math, *dialogs_, mathPath);
     status("setting up forms");
     status("setting default values");
     finances.setFunds(math.initfunds);
@@ -159,16 +153,15 @@ void Game::autoload() {
 // the file). What was copied from the math at start-up keeps its value.
 void Game::reloadMath() {
     std::string path;
-    mathFile.loadMath(*this, path);
+    mathFile.loadMath(math, *dialogs_, path);
     building.showBuilding();         // recomputes the building's costs
     employees.refreshEmployeeGrid(); // the staff display renumbers the staff
     screen_->refresh(View::ConcessionListing);
-    promos.showPromotions();         // recomputes the running points against the cap
+    promos.showPromotions(); // recomputes the running points against the cap
 }
 
 void Game::endProcess(const std::string& why) {
-    dialogs_->endProcess(why);
-    throw ProcessEnded(why);
+    zorvane::endProcess(*dialogs_, why);
 }
 
 void Game::setSpeed(int newSpeed) {
@@ -185,7 +178,9 @@ void Game::setSpeed(int newSpeed) {
     screen_->refresh(View::Speed);
 }
 
-int Game::timerInterval() const { return speed == 0 ? 0 : math.gamespeed[speed]; }
+int Game::timerInterval() const {
+    return speed == 0 ? 0 : math.gamespeed[speed];
+}
 
 std::string Game::dataPath(const std::string& name) const {
     std::string rel = name;

@@ -1,11 +1,12 @@
 #pragma once
-#include "core/Calendar.h"
 #include "core/DialogPort.h"
 #include "core/MathFile.h"
 #include "core/MathVars.h"
 #include "core/Random.h"
 #include "core/ScreenPort.h"
 #include "core/SettingsPort.h"
+#include "core/Version.h"
+#include "session/Calendar.h"
 
 #include "arcade/arcadeManager.h"
 #include "building/buildingManager.h"
@@ -41,9 +42,7 @@ struct GameSetup {
 // log and the session state. Nothing of a game lives outside it, so several games can run
 // side by side (tests, the balance lab's threads).
 class Game {
-public:
-    static const std::string programVersion; // "2.0.1"
-
+  public:
     explicit Game(GameSetup setup);
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -91,15 +90,15 @@ public:
     MathFile mathFile;
     Random rng;
 
-    std::string savedPath;        // the current saved-game path
-    bool saved = false;           // set by a save, cleared by every day
+    std::string savedPath; // the current saved-game path
+    bool saved = false;    // set by a save, cleared by every day
     std::array<bool, 21> logSlots{};
-    std::string logBox;           // the main log box's text
+    std::string logBox; // the main log box's text
     Int16 speed;
     Int16 lastSpeed;
-    int loseShown = 0;            // how many times the lost-game picture was asked for
-    int goalShown = 0;            // how many times the goal-reached picture was asked for
-    bool playing = false;         // "Play !" was pressed at least once
+    int loseShown = 0;    // how many times the lost-game picture was asked for
+    int goalShown = 0;    // how many times the goal-reached picture was asked for
+    bool playing = false; // "Play !" was pressed at least once
 
     Calendar calendar;
     Finances finances;
@@ -115,7 +114,7 @@ public:
     goalManager goals;
     SavedGame files;
 
-private:
+  private:
     void status(const std::string& line); // a line of the title screen's status box
 
     GameSetup setup_;

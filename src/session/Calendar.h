@@ -12,7 +12,7 @@ class LineWriter;
 // The clock of the simulation and the one place that fixes in which order the managers act.
 // A month is always 4 weeks of 7 days, a year 12 such months: 336 days, no real dates.
 class Calendar {
-public:
+  public:
     explicit Calendar(Game& game) : game_(game) {}
 
     Int16 currentday;   // 0 "Sun" to 6 "Sat"
@@ -38,7 +38,7 @@ public:
     static const char* dayName(int day);
     static const char* monthName(int month);
 
-private:
+  private:
     void nextWeek();
     void nextMonth();
     void nextYear();

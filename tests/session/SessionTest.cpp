@@ -1,5 +1,5 @@
-#include "core/Game.h"
 #include "core/GameError.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

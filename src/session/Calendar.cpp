@@ -1,8 +1,8 @@
-#include "core/Calendar.h"
+#include "session/Calendar.h"
 
-#include "core/Game.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
+#include "session/Game.h"
 
 #include <algorithm>
 
