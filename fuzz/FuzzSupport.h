@@ -59,7 +59,7 @@ class FuzzDialogs : public DialogPort {
 struct FuzzGame {
     FuzzDialogs dialogs;
     MemorySettings settings;
-    ScreenPort screen;
+    NullScreen screen;
     std::unique_ptr<Game> game;
 
     explicit FuzzGame(std::uint64_t seed = 1);

@@ -18,7 +18,7 @@ struct SimOptions {
 };
 
 // The screen of a headless game: log lines are echoed as they are written.
-class EchoScreen : public ScreenPort {
+class EchoScreen : public NullScreen {
   public:
     EchoScreen(std::ostream& out, bool quiet, std::vector<std::string>& unread)
         : out_(out), quiet_(quiet), unread_(unread) {}

@@ -1,5 +1,5 @@
 #pragma once
-#include "core/ScreenPort.h"
+#include "core/NullScreen.h"
 
 #include <cstdint>
 #include <iosfwd>
@@ -51,7 +51,7 @@ class Strategy;
 LossRoad lossRoadOf(const std::string& lastLogLine);
 
 // A lab game's screen: it shows nothing, but it notes how the game was lost.
-class LossWatcher : public ScreenPort {
+class LossWatcher : public NullScreen {
   public:
     LossRoad lost = LossRoad::None;
     void logLine(const std::string& line, bool) override { last_ = line; }

@@ -16,6 +16,14 @@ void Calendar::startCalendar() {
 // One game day, run to its end in one go. Everything that happens in the game happens here
 // or in a roll-over it calls, in exactly this order.
 void Calendar::nextDay() {
+    // Set for the whole day, and cleared however the day ends (a fatal error included).
+    struct Running {
+        bool& flag;
+        explicit Running(bool& f) : flag(f) { flag = true; }
+        ~Running() { flag = false; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+    } running(dayRunning_);
     game_.gameLog(" -- Another day has arrived --", 0);
     onedayclose = false;
     game_.markUnsaved();

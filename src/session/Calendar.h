@@ -23,6 +23,9 @@ class Calendar {
 
     void startCalendar();
     void nextDay();
+    // Whether a day is running now: a modal box opened inside the day waits for the player,
+    // and the clock must not start another day meanwhile.
+    bool dayRunning() const { return dayRunning_; }
     bool canDoBusiness();
     int getCurrentMonth() const { return currentmonth; }
     int getCurrentYear() const { return currentyear; }
@@ -45,6 +48,7 @@ class Calendar {
     void fundsTest();
 
     Game& game_;
+    bool dayRunning_ = false;
 };
 
 } // namespace zorvane

@@ -178,6 +178,13 @@ void Game::setSpeed(int newSpeed) {
     screen_->refresh(View::Speed);
 }
 
+bool Game::clockTick() {
+    if (calendar.dayRunning())
+        return false;
+    calendar.nextDay();
+    return true;
+}
+
 int Game::timerInterval() const {
     return speed == 0 ? 0 : math.gamespeed[speed];
 }

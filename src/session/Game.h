@@ -2,8 +2,8 @@
 #include "core/DialogPort.h"
 #include "core/MathFile.h"
 #include "core/MathVars.h"
+#include "core/NullScreen.h"
 #include "core/Random.h"
-#include "core/ScreenPort.h"
 #include "core/SettingsPort.h"
 #include "core/Version.h"
 #include "session/Calendar.h"
@@ -75,6 +75,9 @@ class Game {
     // speed, -2 returns to the remembered speed.
     void setSpeed(int newSpeed);
     int timerInterval() const; // milliseconds of the running speed, 0 when paused
+    // The clock's tick: the next day, unless a day is running already (its modal box lets
+    // the window's timer fire; days never nest). Returns whether the day ran.
+    bool clockTick();
 
     // A file of the program's folder ("images\arcades\x.png" style names work too).
     std::string dataPath(const std::string& name) const;
@@ -118,7 +121,7 @@ class Game {
     void status(const std::string& line); // a line of the title screen's status box
 
     GameSetup setup_;
-    ScreenPort nullScreen_;
+    NullScreen nullScreen_;
     ScriptedDialogs nullDialogs_;
     MemorySettings memorySettings_;
     ScreenPort* screen_;

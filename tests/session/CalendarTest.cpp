@@ -122,3 +122,26 @@ TEST_F(CalendarFixture, LoadedWeekOutOfRangeDoesNotBreakTheArrows) {
     LineReader r2(big, "game.zvn");
     EXPECT_THROW(cal().loadCalendar(r2), GameError);
 }
+
+// A tick that arrives while a day is running (here: from inside the day's log, as a timer
+// would fire under a modal box of that day) is dropped; a tick between days runs one.
+TEST_F(CalendarFixture, TheClockDropsATickWhileADayIsRunning) {
+    struct TickingScreen : RecordingScreen {
+        Game* game = nullptr;
+        std::vector<bool> ticks;
+        void logLine(const std::string& line, bool cleared) override {
+            RecordingScreen::logLine(line, cleared);
+            if (game && ticks.empty() && line == " -- Another day has arrived --")
+                ticks.push_back(game->clockTick());
+        }
+    } screen;
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    auto played = makeGame(data.path().string(), 1, "", screen, dialogs, settings);
+    played->startup();
+    screen.game = played.get();
+    EXPECT_TRUE(played->clockTick());
+    EXPECT_EQ(screen.ticks, std::vector<bool>{false});
+    EXPECT_EQ(played->calendar.currentday, 2);
+    EXPECT_FALSE(played->calendar.dayRunning());
+}

@@ -42,7 +42,7 @@ class DataFolder : public TempDir {
 };
 
 // A game on a folder, with scripted dialogs and a log that records every line.
-class RecordingScreen : public ScreenPort {
+class RecordingScreen : public NullScreen {
   public:
     std::vector<std::string> lines;
     std::vector<std::string> status;
