@@ -114,6 +114,7 @@ const CommandTable& commandTable() {
         addLoanCommands(t);
         addGoalCommands(t);
         addFileCommands(t);
+        addGraphCommands(t);
         return t;
     }();
     return table;

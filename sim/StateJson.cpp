@@ -95,6 +95,7 @@ json gameState(Game& game) {
     addReputationState(game, s);
     addLoanState(game, s);
     addGoalState(game, s);
+    addGraphState(game, s);
     s["math"] = mathState(game);
     return s;
 }

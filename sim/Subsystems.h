@@ -15,6 +15,7 @@ void addPromoCommands(CommandTable& table);
 void addLoanCommands(CommandTable& table);
 void addGoalCommands(CommandTable& table);
 void addFileCommands(CommandTable& table);
+void addGraphCommands(CommandTable& table);
 
 void addStaffState(Game& game, nlohmann::json& state);
 void addBuildingState(Game& game, nlohmann::json& state);
@@ -24,5 +25,6 @@ void addArcadeState(Game& game, nlohmann::json& state);
 void addReputationState(Game& game, nlohmann::json& state);
 void addLoanState(Game& game, nlohmann::json& state);
 void addGoalState(Game& game, nlohmann::json& state);
+void addGraphState(Game& game, nlohmann::json& state);
 
 } // namespace zorvane::sim

@@ -1,8 +1,10 @@
 #include "Simulator.h"
+#include "core/Toolbox.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -135,4 +137,25 @@ TEST(Simulator, TheDemoScriptPlaysItsMonth) {
         ++hired;
     EXPECT_EQ(hired, 7);
     EXPECT_EQ(lastState(run)["calendar"]["currentmonth"], 1);
+}
+
+TEST(Simulator, GraphRedrawAndAMonthsBox) {
+    DataFolder data;
+    SimRun run = simulate(data.path().string(),
+                          {"day 28", "graph", "monthfunds 10", "monthfunds 11", "state"});
+    ASSERT_EQ(run.status, 0) << run.err;
+    const auto state = lastState(run);
+    const double january = state["histfunds"][0].get<double>();
+    EXPECT_NE(run.out.find("ask: Funds for the month of Jan: " + formatMoney(january) + " -> ok\n"),
+              std::string::npos)
+        << run.out;
+    EXPECT_NE(run.out.find("ask: Funds for the month of Feb: $0 -> ok\n"), std::string::npos);
+    const auto& graph = state["graph"];
+    EXPECT_EQ(graph["graphMonth"][11], 1);
+    EXPECT_EQ(graph["monthNames"][10], "Jan");
+    EXPECT_EQ(graph["graphHigh"], std::max(january, state["funds"].get<double>()));
+    EXPECT_EQ(graph["scale"].size(), 10u);
+    EXPECT_EQ(graph["pointY"].size(), 12u);
+    run = simulate(data.path().string(), {"monthfunds 12"});
+    EXPECT_EQ(run.status, 2);
 }
