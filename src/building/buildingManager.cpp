@@ -238,32 +238,4 @@ void buildingManager::loadBuilding(LineReader& in) {
     }
 }
 
-const std::array<std::string, 9>& buildingManager::buildingDescriptions() {
-    static const std::array<std::string, 9> descriptions = {"Building Age:",
-                                                            "Current Building Condition:",
-                                                            "Repair Cost:",
-                                                            "Renovation Cost:",
-                                                            "Monthly Rent:",
-                                                            "Total rent paid so far:",
-                                                            "Building purchase price:",
-                                                            "Seating Capacity:",
-                                                            "Remodel Cost:"};
-    return descriptions;
-}
-
-BuildingTexts buildingManager::buildingTexts() const {
-    BuildingTexts t;
-    t.values = {digits(game_.calendar.getCurrentYear()) + " Years",
-                digits(condition) + " %",
-                formatMoneyShort(repairCost),
-                formatMoneyShort(renovateCost),
-                formatMoneyShort(rent),
-                formatMoneyShort(totalRentPaid),
-                formatMoneyShort(getPurchasePrice()),
-                digits(seating),
-                formatMoneyShort(remodelcost)};
-    t.outOfOrder = IamBroken;
-    return t;
-}
-
 } // namespace zorvane
