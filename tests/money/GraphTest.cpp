@@ -1,7 +1,7 @@
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "core/Toolbox.h"
 #include "money/GraphTexts.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
