@@ -9,7 +9,9 @@ namespace zorvane {
 namespace {
 
 // A whole number as the labels print it: digits only, so a negative loses its sign.
-std::string digits(double value) { return digitsOnly(numberText(value)); }
+std::string digits(double value) {
+    return digitsOnly(numberText(value));
+}
 
 } // namespace
 

@@ -12,10 +12,15 @@ class buildingManager;
 // only puts these into its controls and calls the manager's operation of a pressed button.
 
 // lblBuildingDesc: the fixed descriptions beside the nine values.
-inline constexpr std::array<const char*, 9> buildingDescriptions{
-    "Building Age:",  "Current Building Condition:", "Repair Cost:",
-    "Renovation Cost:", "Monthly Rent:",             "Total rent paid so far:",
-    "Building purchase price:", "Seating Capacity:", "Remodel Cost:"};
+inline constexpr std::array<const char*, 9> buildingDescriptions{"Building Age:",
+                                                                 "Current Building Condition:",
+                                                                 "Repair Cost:",
+                                                                 "Renovation Cost:",
+                                                                 "Monthly Rent:",
+                                                                 "Total rent paid so far:",
+                                                                 "Building purchase price:",
+                                                                 "Seating Capacity:",
+                                                                 "Remodel Cost:"};
 
 // lblBuildingValue as showBuilding fills it, and whether the out-of-order sign (imgOOO)
 // stands over the house.

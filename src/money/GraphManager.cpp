@@ -150,10 +150,10 @@ double GraphManager::monthPercent(int month) const {
     const double range = finite(graphHigh - graphLow, "the graph's range");
     if (range == 0)
         return 100;
-    const double value = (month == game_.calendar.getCurrentMonth()
-                              ? game_.finances.getFunds()
-                              : game_.finances.getHistFunds(month)) -
-                         graphLow;
+    const double value =
+        (month == game_.calendar.getCurrentMonth() ? game_.finances.getFunds()
+                                                   : game_.finances.getHistFunds(month)) -
+        graphLow;
     // A value so large that a hundred times it leaves a double's range is divided first.
     const double hundredfold = value * 100;
     const double percent = std::isfinite(hundredfold) ? hundredfold / range : value / range * 100;

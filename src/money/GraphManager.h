@@ -29,7 +29,7 @@ struct GraphLine {
 // mark for each month, lines joining them). Everything here is rebuilt by each drawGraph and
 // nothing is saved; the history belongs to the ledger. The window only shows what this holds.
 class GraphManager {
-public:
+  public:
     explicit GraphManager(Game& game);
 
     // --- the screen's controls, as they stand (the window places its widgets from these) ---
@@ -44,9 +44,9 @@ public:
     std::array<Int16, 13> pointY{};
     double graphHigh = 1.0;
     double graphLow = 999999999.0;
-    double summaryFunds = 0;               // the funds when the summary was written
-    std::array<double, 10> scaleValues{};  // what each scale label shows, before formatting
-    std::vector<GraphLine> lines;          // the picture, in drawing order
+    double summaryFunds = 0;              // the funds when the summary was written
+    std::array<double, 10> scaleValues{}; // what each scale label shows, before formatting
+    std::vector<GraphLine> lines;         // the picture, in drawing order
 
     void drawGraph();
     // A left click on month label `position`: that month's balance in a message box.
@@ -64,7 +64,7 @@ public:
     // The month name shown for a calendar month: indexes 0 to 12 (12 is empty).
     const std::string& monthNameOf(int month) const;
 
-private:
+  private:
     Game& game_;
 };
 

@@ -45,6 +45,7 @@ struct ScaleCase {
     int y11, y10, y0; // the marks at the current month, the month before, and the left end
 };
 
+// clang-format off
 const ScaleCase scaleCases[] = {
     // Equal high and low: no range, every month at 100 percent, a step above the top edge.
     {"first month, no history", 0, 5000, {}, 5000, 5000, -step, -step, -step},
@@ -64,6 +65,7 @@ const ScaleCase scaleCases[] = {
     // The percent's product leaves a double's range; the graph still draws.
     {"funds near a double's limit", 1, 1e307, {{0, 1}}, 1e307, 1, -step, bottom - step, bottom},
 };
+// clang-format on
 
 } // namespace
 
@@ -91,10 +93,13 @@ TEST_F(GraphFixture, TenScaleLabelsWithTwoStepsAtTheTop) {
     const Case cases[] = {
         {11000, 1000, {"$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$7k", "$8k", "$9k", "$11k"}},
         // Only the low is floored: the steps keep their cents.
-        {225.75, 100.75, {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175",
-                          "$187.50", "$200", "$225"}},
-        {-2000, 8000, {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k",
-                       "$8k"}},
+        {225.75,
+         100.75,
+         {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175", "$187.50", "$200",
+          "$225"}},
+        {-2000,
+         8000,
+         {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$8k"}},
     };
     for (const Case& c : cases) {
         draw(1, c.funds, {{0, c.history}});
