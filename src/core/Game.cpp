@@ -1,6 +1,7 @@
 #include "core/Game.h"
 
 #include "core/GameError.h"
+#include "core/TitleScreen.h"
 #include "core/Toolbox.h"
 
 namespace zorvane {
@@ -24,7 +25,7 @@ Game::Game(GameSetup setup)
 void Game::status(const std::string& line) { screen_->titleStatus(line); }
 
 void Game::startup() {
-    status("Zorvane v" + programVersion);
+    status(versionCaption());
     status("Initializing random number generator");
     rng.reseed(setup_.seed);
     status("Loading registry settings");
@@ -32,9 +33,10 @@ void Game::startup() {
     status("Loading math variables from " + mathPath);
     mathFile.loadMath(*this, mathPath);
     status("setting up forms");
+    setupForms();
     status("setting default values");
     finances.setFunds(math.initfunds);
-    screen_->refresh(View::Expand);
+    expand("false");
     setSpeed(0);
     movies.initShowtimes();
     loans.loansSetDefaults();
@@ -64,9 +66,13 @@ void Game::startup() {
     calendar.startCalendar();
 }
 
-void Game::startPlay(int goalIndex) {
-    goals.selectGoal(goalIndex);
-    goals.startGoal(goalIndex);
+// The goal at the list index gives its starting figures (-1, no line picked, keeps the goal
+// in force). Picking a line is the list's own click (selectGoal), not this. The first press
+// brings up the main screen; a later one, through the Goal menu, only re-applies the figures.
+void Game::startPlay(int listIndex) {
+    goals.startGoal(listIndex);
+    if (!playing)
+        status("bringing up main form");
     playing = true;
 }
 
@@ -164,6 +170,18 @@ void Game::reloadMath() {
     employees.refreshEmployeeGrid(); // the staff display renumbers the staff
     screen_->refresh(View::ConcessionListing);
     promos.showPromotions();         // recomputes the running points against the cap
+}
+
+bool Game::clockTick() {
+    if (dayRunning)
+        return false;
+    struct Running {
+        bool& flag;
+        explicit Running(bool& f) : flag(f) { flag = true; }
+        ~Running() { flag = false; }
+    } running(dayRunning);
+    calendar.nextDay();
+    return true;
 }
 
 void Game::endProcess(const std::string& why) {
