@@ -91,19 +91,6 @@ public:
     // other text leaves them as they are.
     void expand(const std::string& text);
 
-    // One tick of the clock, or a click on a day: runs nextDay unless a day is already
-    // running (a modal box or picture opened inside it lets the clock tick on); such a tick
-    // is dropped, so days never nest. True when a day ran.
-    bool clockTick();
-
-    // --- the main screen ---
-    // switchMode: the child screen of a mode (0 to 7) comes to the front; another number
-    // is reported through the error box.
-    void switchMode(int mode);
-    // The money summary's details: "true" opens, "false" closes (any case), empty toggles,
-    // other text leaves them as they are.
-    void expand(const std::string& text);
-
     // A file of the program's folder ("images\arcades\x.png" style names work too).
     std::string dataPath(const std::string& name) const;
 
@@ -132,11 +119,6 @@ public:
     Int16 currentMode;            // the mode shown last
     // Each mode's screen colour and mode button colour (0xBBGGRR), from formcolor0 to 7.
     std::array<std::int32_t, 8> formColours{};
-    bool dayRunning = false;      // inside clockTick's day
-    bool expanded = false;        // the money summary's details are open
-    Int16 currentMode;            // the mode shown last
-    // Each mode's screen colour and mode button colour (0xBBGGRR), from formcolor0 to 7.
-    std::array<std::int32_t, 8> formColours{};
 
     Calendar calendar;
     Finances finances;
@@ -154,7 +136,6 @@ public:
 
 private:
     void status(const std::string& line); // a line of the title screen's status box
-    void setupForms();                    // start-up's "setting up forms"
     void setupForms();                    // start-up's "setting up forms"
 
     GameSetup setup_;
