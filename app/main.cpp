@@ -107,24 +107,7 @@ void setUpClick(const QString& folder, QObject* owner) {
 void playDemo(GameWindows& w, ScriptedDialogs& dialogs, const QString& folder) {
     std::ifstream in((folder + QStringLiteral("/demo.txt")).toStdString());
     std::ostringstream sink;
-    std::vector<std::string> unread;
-    sim::CommandContext context{w.game(), dialogs, sink, unread};
-    std::string line;
-    while (std::getline(in, line)) {
-        std::string command;
-        sim::Args args;
-        if (!sim::parseLine(line, command, args))
-            continue;
-        const auto& table = sim::commandTable();
-        const auto it = table.find(command);
-        if (it == table.end())
-            continue;
-        try {
-            it->second.run(context, args);
-        } catch (const sim::ScriptError&) {
-            // a line this build does not know: the picture goes on without it
-        }
-    }
+    sim::playScript(w.game(), dialogs, in, sink);
 }
 
 int runScreenshots(const Options& o, const QString& folder) {
