@@ -27,6 +27,7 @@ EndPicture::EndPicture(Game& game, const QString& formName, const QString& pictu
     pic_->setGeometry(0, 0, windowSize.width(), windowSize.height());
     pic_->setAccessibleName(caption);
     pic_->setAccessibleDescription("Double click the picture or press Enter to go on");
+    pic_->setToolTip("Double click to go on");
     pic_->setFocusPolicy(Qt::StrongFocus);
     const QPixmap picture = loadPicture(game, picturePath.toStdString());
     if (!picture.isNull()) {

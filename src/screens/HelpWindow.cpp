@@ -30,7 +30,8 @@ HelpWindow::HelpWindow(QString path, QWidget* parent)
     txtHelp_->setOpenExternalLinks(true);
     setStyleSheet(
         "QListWidget { background: #1D2A44; color: #F6E7C1; border: none;"
-        " font-family: 'DejaVu Sans'; font-size: 10pt; }"
+        " font-family: 'DejaVu Sans'; font-size: 10pt; padding: 4px; }"
+        "QListWidget::item { padding: 1px 2px; }"
         "QListWidget::item:selected { background: #C9A227; color: #2B1D14; }"
         "QTextBrowser { background: #F6E7C1; color: #2B1D14; border: none;"
         " font-family: 'DejaVu Sans'; font-size: 10pt; }");
@@ -40,11 +41,14 @@ HelpWindow::HelpWindow(QString path, QWidget* parent)
     split->addWidget(txtHelp_);
     split->setStretchFactor(0, 0);
     split->setStretchFactor(1, 1);
-    split->setSizes({200, 560});
+    split->setSizes({230, 570});
+    lstContents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstContents_->setTextElideMode(Qt::ElideRight);
+    txtHelp_->document()->setDocumentMargin(14);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(split);
-    resize(760, 560);
+    resize(800, 580);
 
     connect(lstContents_, &QListWidget::currentRowChanged, this, &HelpWindow::showTopic);
     load();
@@ -67,6 +71,12 @@ void HelpWindow::load() {
             continue;
         auto* item = new QListWidgetItem(QString(2 * (level - 1), ' ') + b.text().trimmed());
         item->setData(positionRole, b.position());
+        item->setToolTip(b.text().trimmed());
+        if (level == 1) {
+            QFont bold = lstContents_->font();
+            bold.setBold(true);
+            item->setFont(bold);
+        }
         lstContents_->addItem(item);
     }
 }

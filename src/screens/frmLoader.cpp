@@ -28,7 +28,7 @@ const QColor black(0x00, 0x00, 0x00);
 // The two boxes sit on the houses left and right of the theater.
 const char* const boxStyle =
     "QListWidget, QPlainTextEdit { background: #F6E7C1; color: #2B1D14;"
-    " border: 2px solid #C9A227; border-radius: 3px; font-family: 'DejaVu Sans';"
+    " border: 2px solid #C9A227; font-family: 'DejaVu Sans';"
     " font-size: 9pt; }"
     "QListWidget::item { padding: 2px 4px; }"
     "QListWidget::item:selected { background: #B3262E; color: #F6E7C1; }";
@@ -51,14 +51,14 @@ frmLoader::frmLoader(Game& game, QWidget* parent)
     label1_->setObjectName("Label1");
     label1_->setText("Select a Goal");
     label1_->setFont(look::font(10, true));
-    label1_->setGeometry(14, 258, 214, 22);
-    QPalette caption = label1_->palette();
-    caption.setColor(QPalette::WindowText, look::popcorn);
-    label1_->setPalette(caption);
+    label1_->setGeometry(14, 258, 214, 24);
+    label1_->setIndent(8);
+    look::paint(label1_, look::curtain, look::cream);
 
     lstGoals_->setObjectName("lstGoals");
     lstGoals_->setAccessibleName("Select a Goal");
     lstGoals_->setGeometry(14, 282, 214, 150);
+    lstGoals_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstGoals_->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstGoals_, &QListWidget::itemSelectionChanged, this, &frmLoader::goalClicked);
 
