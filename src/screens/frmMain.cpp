@@ -491,7 +491,9 @@ void frmMain::paintDayBars() {
         lblDay_[d]->setGeometry(px(bar.left), px(mainLayout::dayTop), px(mainLayout::dayWidth),
                                 px(bar.height));
         lblDay_[d]->setColours(fromBgr(bar.colour), look::ink);
-        lblDay_[d]->setFont(look::font(8, static_cast<int>(d) == bars.currentDay));
+        const bool bold = static_cast<int>(d) == bars.currentDay;
+        if (lblDay_[d]->font().bold() != bold)
+            lblDay_[d]->setFont(look::font(8, bold));
     }
     lbcNextDay_->setGeometry(px(bars.nextDayLeft),
                              px(mainLayout::dayTop + mainLayout::currentDayHeight) + nextDayGap,
@@ -535,7 +537,6 @@ void frmMain::paintRating() {
         bar->setVisible(bars[m].height > 0);
         look::paint(bar, fromBgr(bars[m].colour), look::ink);
         lblHistMonth_[m]->setToolTip(QString::fromStdString(bars[m].tip));
-        bar->raise();
     }
 }
 

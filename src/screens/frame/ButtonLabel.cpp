@@ -40,7 +40,9 @@ void ButtonLabel::playClick() const {
 
 void ButtonLabel::showPressed(bool pressed) {
     pressed_ = pressed;
-    setFrameShadow(pressed ? QFrame::Sunken : QFrame::Raised);
+    const QFrame::Shadow shadow = pressed ? QFrame::Sunken : QFrame::Raised;
+    if (frameShadow() != shadow)
+        setFrameShadow(shadow);
     if (background_.isValid())
         look::paint(this, pressed ? pressedBackground_ : background_,
                     pressed ? pressedText_ : text_);

@@ -14,6 +14,12 @@ QFont font(double pointSize, bool bold) {
 }
 
 void paint(QWidget* w, const QColor& background, const QColor& text) {
+    // A busy day asks again for the colours a control already has: changing a palette
+    // repaints, so only a real change is made.
+    const QPalette& now = w->palette();
+    if (w->autoFillBackground() && now.color(QPalette::Window) == background &&
+        now.color(QPalette::WindowText) == text && now.color(QPalette::Base) == background)
+        return;
     QPalette p = w->palette();
     p.setColor(QPalette::Window, background);
     p.setColor(QPalette::WindowText, text);
