@@ -6,6 +6,7 @@
 #include "frame/Look.h"
 #include "frame/Twips.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 
 namespace zorvane::screens {
@@ -54,6 +55,19 @@ void frmMenuFile::showAt(const QPoint& mainTopLeft) {
 void frmMenuFile::choose(int index) {
     runFileOption(game_, index);
     hide();
+}
+
+void frmMenuFile::keyPressEvent(QKeyEvent* e) {
+    if (e->key() != Qt::Key_Up && e->key() != Qt::Key_Down) {
+        QDialog::keyPressEvent(e);
+        return;
+    }
+    int at = 0;
+    for (int i = 0; i < fileOptionCount; ++i)
+        if (options_[static_cast<std::size_t>(i)]->hasFocus())
+            at = i;
+    at = (at + (e->key() == Qt::Key_Down ? 1 : fileOptionCount - 1)) % fileOptionCount;
+    options_[static_cast<std::size_t>(at)]->setFocus();
 }
 
 } // namespace zorvane::screens

@@ -29,6 +29,10 @@ public:
 
     ButtonLabel* option(int index) const { return options_.at(static_cast<std::size_t>(index)); }
 
+protected:
+    // Up and Down walk the options; Space or Enter on one chooses it; Esc closes the menu.
+    void keyPressEvent(QKeyEvent* e) override;
+
 private:
     Game& game_;
     QLabel* label1_;
