@@ -120,4 +120,28 @@ const CommandTable& commandTable() {
     return table;
 }
 
+int playScript(Game& game, ScriptedDialogs& dialogs, std::istream& script, std::ostream& out) {
+    std::vector<std::string> unread;
+    CommandContext context{game, dialogs, out, unread};
+    const CommandTable& table = commandTable();
+    int ran = 0;
+    std::string line;
+    while (std::getline(script, line)) {
+        std::string command;
+        Args args;
+        if (!parseLine(line, command, args))
+            continue;
+        const auto it = table.find(command);
+        if (it == table.end())
+            continue;
+        try {
+            it->second.run(context, args);
+            ++ran;
+        } catch (const ScriptError&) {
+            // a line the game cannot take as written: skipped, as the window has no script
+        }
+    }
+    return ran;
+}
+
 } // namespace zorvane::sim

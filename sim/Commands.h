@@ -3,6 +3,7 @@
 #include "session/Game.h"
 
 #include <functional>
+#include <istream>
 #include <map>
 #include <ostream>
 #include <stdexcept>
@@ -55,5 +56,10 @@ const CommandTable& commandTable();
 // Splits a script line into its command and arguments. Returns false for a blank line or
 // a comment.
 bool parseLine(const std::string& line, std::string& command, Args& args);
+
+// Plays a script's command lines on a game of the caller's own (the game window's
+// screenshots and benchmarks): what a line prints goes to `out`, a line this build does
+// not understand is skipped. Returns how many lines ran.
+int playScript(Game& game, ScriptedDialogs& dialogs, std::istream& script, std::ostream& out);
 
 } // namespace zorvane::sim

@@ -45,6 +45,7 @@ std::size_t Simulator::queueLeadingAnswers(const std::vector<std::string>& lines
 
 void Simulator::startup() {
     game_->startup();
+    game_->goals.selectGoal(options_.goal); // the player's click in the goal list
     game_->startPlay(options_.goal);
 }
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages Zorvane needs to build and test, if any are missing.
-# Usage: tools/install-deps.sh [game|fuzz|art]   ("game" adds the Qt 6 packages of the window,
+# Usage: tools/install-deps.sh [game|fuzz|art]   ("game" adds the Qt 6 packages of the window and its font,
 #        "fuzz" the clang compiler and runtime that the libFuzzer targets of fuzz/ build with,
 #        "art" the tools tools/make-art.sh draws the pictures with)
 set -euo pipefail
@@ -9,7 +9,9 @@ packages=(build-essential cmake g++ pkg-config
           libgtest-dev libgmock-dev googletest libbenchmark-dev
           libcli11-dev nlohmann-json3-dev)
 if [[ "${1:-}" == "game" ]]; then
-    packages+=(qt6-base-dev qt6-multimedia-dev)
+    # Qt 6 for the window, and a font so that every caption renders (a fresh machine may
+    # have none: the captions would be empty boxes).
+    packages+=(qt6-base-dev qt6-multimedia-dev qt6-qpa-plugins libqt6svg6 fonts-dejavu-core)
 fi
 if [[ "${1:-}" == "art" ]]; then
     packages+=(python3 librsvg2-bin imagemagick)

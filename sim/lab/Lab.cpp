@@ -44,6 +44,7 @@ GameResult playGame(const LabOptions& o, std::uint64_t seed, Strategy& strategy)
     int d = 0;
     try {
         game.startup();
+        game.goals.selectGoal(o.goal);
         game.startPlay(o.goal);
         r.startFunds = game.finances.funds;
         const bool hasGoal = o.goal >= 1 && o.goal <= game.goals.getLastGoal();

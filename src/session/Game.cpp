@@ -1,6 +1,7 @@
 #include "session/Game.h"
 
 #include "core/GameError.h"
+#include "session/TitleScreen.h"
 #include "core/Toolbox.h"
 
 namespace zorvane {
@@ -18,7 +19,7 @@ void Game::status(const std::string& line) {
 }
 
 void Game::startup() {
-    status("Zorvane v" + programVersion());
+    status(versionCaption());
     status("Initializing random number generator");
     rng.reseed(setup_.seed);
     status("Loading registry settings");
@@ -26,9 +27,10 @@ void Game::startup() {
     status("Loading math variables from " + mathPath);
     mathFile.loadMath(math, *dialogs_, mathPath);
     status("setting up forms");
+    setupForms();
     status("setting default values");
     finances.setFunds(math.initfunds);
-    screen_->refresh(View::Expand);
+    expand("false");
     setSpeed(0);
     movies.initShowtimes();
     loans.loansSetDefaults();
@@ -58,9 +60,13 @@ void Game::startup() {
     calendar.startCalendar();
 }
 
-void Game::startPlay(int goalIndex) {
-    goals.selectGoal(goalIndex);
-    goals.startGoal(goalIndex);
+// The goal at the list index gives its starting figures (-1, no line picked, keeps the goal
+// in force). Picking a line is the list's own click (selectGoal), not this. The first press
+// brings up the main screen; a later one, through the Goal menu, only re-applies the figures.
+void Game::startPlay(int listIndex) {
+    goals.startGoal(listIndex);
+    if (!playing)
+        status("bringing up main form");
     playing = true;
 }
 

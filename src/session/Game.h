@@ -50,8 +50,9 @@ class Game {
     // The entry routine: brings every subsystem up in the fixed start-up order and runs the
     // first day. The game then waits on the title screen for "Play !".
     void startup();
-    // "Play !" on the title screen: the chosen goal's starting figures, then the main screen.
-    void startPlay(int goalIndex);
+    // "Play !" on the title screen with line `listIndex` of the goal list picked (-1: none):
+    // that goal's starting figures, then, the first time, the main screen.
+    void startPlay(int listIndex);
 
     // --- session ---
     void gameLog(const std::string& text, int slot);
@@ -75,9 +76,18 @@ class Game {
     // speed, -2 returns to the remembered speed.
     void setSpeed(int newSpeed);
     int timerInterval() const; // milliseconds of the running speed, 0 when paused
-    // The clock's tick: the next day, unless a day is running already (its modal box lets
-    // the window's timer fire; days never nest). Returns whether the day ran.
+    // One tick of the clock, or a click on a day: runs nextDay unless a day is already
+    // running (a modal box or picture opened inside it lets the clock tick on); such a tick
+    // is dropped, so days never nest. True when a day ran.
     bool clockTick();
+
+    // --- the main screen ---
+    // switchMode: the child screen of a mode (0 to 7) comes to the front; another number
+    // is reported through the error box.
+    void switchMode(int mode);
+    // The money summary's details: "true" opens, "false" closes (any case), empty toggles,
+    // other text leaves them as they are.
+    void expand(const std::string& text);
 
     // A file of the program's folder ("images\arcades\x.png" style names work too).
     std::string dataPath(const std::string& name) const;
@@ -99,9 +109,13 @@ class Game {
     std::string logBox; // the main log box's text
     Int16 speed;
     Int16 lastSpeed;
-    int loseShown = 0;    // how many times the lost-game picture was asked for
-    int goalShown = 0;    // how many times the goal-reached picture was asked for
-    bool playing = false; // "Play !" was pressed at least once
+    int loseShown = 0;            // how many times the lost-game picture was asked for
+    int goalShown = 0;            // how many times the goal-reached picture was asked for
+    bool playing = false;         // "Play !" was pressed at least once
+    bool expanded = false;        // the money summary's details are open
+    Int16 currentMode;            // the mode shown last
+    // Each mode's screen colour and mode button colour (0xBBGGRR), from formcolor0 to 7.
+    std::array<std::int32_t, 8> formColours{};
 
     Calendar calendar;
     Finances finances;
@@ -119,6 +133,7 @@ class Game {
 
   private:
     void status(const std::string& line); // a line of the title screen's status box
+    void setupForms();                    // start-up's "setting up forms"
 
     GameSetup setup_;
     NullScreen nullScreen_;

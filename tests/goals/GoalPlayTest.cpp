@@ -44,7 +44,10 @@ struct GoalPlay : ::testing::Test {
         goals().loadGoals();
     }
     // "Play !" with goal 1 picked in the list.
-    void play(int index = 1) { game().startPlay(index); }
+    void play(int index = 1) {
+        goals().selectGoal(index);
+        game().startPlay(index);
+    }
     int count(const std::string& line) const { return session->screen.count(line); }
     void setYear(int year) { game().calendar.currentyear = year; }
     // One daily test, answering the won question with `answer` should it come.

@@ -171,6 +171,7 @@ TEST_F(SavedGameFixture, TheSavedFlagIsSetBySavingClearedByADayAndUntouchedByALo
 
 TEST_F(SavedGameFixture, LoadEmptiesTheLogRunsNoDayAndKeepsSpeedAndGoal) {
     start();
+    game().goals.selectGoal(1);
     game().startPlay(1);
     days(2);
     const std::string path = saveTo("quiet.zvn");

@@ -1,0 +1,165 @@
+// Zorvane: the game window. Starts the game the way it always starts: the title screen
+// comes up, start-up writes its progress there, and the game waits for "Play !".
+//
+//   zorvane [SAVED.zvn | MATH.mth]     play (the one argument: a game to load or a math file)
+//   zorvane --screenshots DIR          write every screen as a PNG into DIR, no display needed
+#include "GameApplication.h"
+#include "GameWindows.h"
+#include "Commands.h"
+#include "core/GameError.h"
+#include "frame/ButtonLabel.h"
+#include "frame/Look.h"
+#include "frmMain.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSoundEffect>
+#include <QStandardPaths>
+#include <QTime>
+#include <QUrl>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+using namespace zorvane;
+using namespace zorvane::screens;
+
+namespace {
+
+struct Options {
+    bool screenshots = false;
+    std::string screenshotDir;
+    std::string argument; // the whole rest of the command line is one argument
+    bool platformChosen = false;
+};
+
+Options parseOptions(int argc, char** argv) {
+    Options o;
+    std::string joined;
+    for (int i = 1; i < argc; ++i) {
+        const std::string a = argv[i];
+        if (a == "--screenshots" && i + 1 < argc) {
+            o.screenshots = true;
+            o.screenshotDir = argv[++i];
+            continue;
+        }
+        if (a == "-platform" && i + 1 < argc) { // Qt's own option: the user chose
+            o.platformChosen = true;
+            ++i;
+            continue;
+        }
+        joined += (joined.empty() ? "" : " ") + a;
+    }
+    o.argument = joined;
+    return o;
+}
+
+// Picks the windowing platform before Qt starts, or says why there is none.
+bool choosePlatform(const Options& o) {
+    if (o.screenshots) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return true;
+    }
+    if (o.platformChosen || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return true;
+    const bool x11 = qEnvironmentVariableIsSet("DISPLAY");
+    const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                         qgetenv("XDG_SESSION_TYPE") == "wayland";
+    // The screens of a mode are glued below the main screen; on Wayland a window cannot
+    // place itself, so the game runs through XWayland there.
+    if (wayland && x11)
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    if (!x11 && !wayland) {
+        std::fprintf(stderr, "zorvane: no display to open the game on (DISPLAY is not set); "
+                             "try: zorvane --screenshots DIR\n");
+        return false;
+    }
+    return true;
+}
+
+// The game's files: beside the program, or where an install puts them.
+QString dataFolder() {
+    const QString here = QCoreApplication::applicationDirPath();
+    for (const QString& candidate : {here, here + QStringLiteral("/../share/zorvane")}) {
+        if (QFileInfo::exists(candidate + QStringLiteral("/math.txt")))
+            return QDir(candidate).canonicalPath();
+    }
+    return here;
+}
+
+// The soft tick of every button label; silent if the sound is missing or there is no audio.
+void setUpClick(const QString& folder, QObject* owner) {
+    const QString path = folder + QStringLiteral("/sounds/click.wav");
+    if (!QFileInfo::exists(path))
+        return;
+    auto* click = new QSoundEffect(owner);
+    click->setSource(QUrl::fromLocalFile(path));
+    ButtonLabel::clickSound = [click] {
+        if (click->isLoaded())
+            click->play();
+    };
+}
+
+// The screenshots show a theater in business: the demo script's first month.
+void playDemo(GameWindows& w, ScriptedDialogs& dialogs, const QString& folder) {
+    std::ifstream in((folder + QStringLiteral("/demo.txt")).toStdString());
+    std::ostringstream sink;
+    sim::playScript(w.game(), dialogs, in, sink);
+}
+
+int runScreenshots(const Options& o, const QString& folder) {
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    WindowsSetup setup;
+    setup.folder = folder.toStdString();
+    setup.executable = QCoreApplication::applicationFilePath().toStdString();
+    setup.seed = 2026;
+    setup.dialogs = &dialogs;
+    setup.settings = &settings;
+    GameWindows w(setup);
+    w.startup();
+    w.game().goals.selectGoal(0);
+    w.game().startPlay(0);
+    w.showMain();
+    w.main().move(0, 0);
+    playDemo(w, dialogs, folder);
+    const int failed = w.screenshots().run(QString::fromStdString(o.screenshotDir));
+    return failed == 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const Options options = parseOptions(argc, argv);
+    if (!choosePlatform(options))
+        return 1;
+    GameApplication app(argc, argv);
+    look::applyToApplication();
+    installButtonLabelAccessibility();
+    const QString folder = dataFolder();
+
+    try {
+        if (options.screenshots)
+            return runScreenshots(options, folder);
+
+        setUpClick(folder, &app);
+        WindowsSetup setup;
+        setup.folder = folder.toStdString();
+        setup.commandLine = options.argument;
+        setup.executable = QCoreApplication::applicationFilePath().toStdString();
+        // The dice are seeded from the clock: the seconds since midnight.
+        setup.seed = static_cast<std::uint64_t>(QTime(0, 0).secsTo(QTime::currentTime()));
+        GameWindows windows(setup);
+        windows.startup();
+        windows.showTitle();
+        return app.exec();
+    } catch (const ProcessEnded&) {
+        return 0;
+    } catch (const std::exception& e) {
+        GameApplication::fatal(QString::fromLocal8Bit(e.what()));
+    }
+    return 1;
+}

@@ -1,0 +1,78 @@
+#include "GameWindows.h"
+
+#include "frame/ButtonLabel.h"
+#include "frmArcade.h"
+#include "frmBuilding.h"
+#include "frmConcessions.h"
+#include "frmEmployees.h"
+#include "frmGraphs.h"
+#include "frmLoans.h"
+#include "frmMain.h"
+#include "frmMovies.h"
+#include "frmPromo.h"
+#include "ports/QtSettings.h"
+
+#include <QApplication>
+
+namespace zorvane::screens {
+
+GameWindows::GameWindows(WindowsSetup setup) {
+    if (!setup.settings)
+        ownSettings_ = std::make_unique<QtSettings>();
+    GameSetup g;
+    g.folder = setup.folder;
+    g.commandLine = setup.commandLine;
+    g.executable = setup.executable;
+    g.seed = setup.seed;
+    g.screen = &screen_;
+    g.dialogs = setup.dialogs ? setup.dialogs : &qtDialogs_;
+    g.settings = setup.settings ? setup.settings : ownSettings_.get();
+    game_ = std::make_unique<Game>(std::move(g));
+
+    main_ = std::make_unique<frmMain>(*game_, screen_);
+    qtDialogs_.parent = main_.get();
+    modes_ = {new frmPromo(*game_, 0, main_.get()),       new frmEmployees(*game_, 0, main_.get()),
+              new frmMovies(*game_, 0, main_.get()),      new frmArcade(*game_, 0, main_.get()),
+              new frmConcessions(*game_, 0, main_.get()), new frmLoans(*game_, 0, main_.get()),
+              new frmGraphs(*game_, 0, main_.get()),      new frmBuilding(*game_, 0, main_.get())};
+    main_->setModeScreens(modes_);
+    addScreenshots();
+}
+
+GameWindows::~GameWindows() = default;
+
+void GameWindows::startup() {
+    game_->startup();
+    // Start-up's "setting up forms" has turned each formcolor into a colour.
+    main_->setupForms();
+    main_->refreshAll();
+}
+
+void GameWindows::showTitle() {
+    game_->startPlay(-1);
+    showMain();
+}
+
+void GameWindows::showMain() {
+    if (main_->isVisible())
+        return;
+    main_->restorePosition();
+    main_->refreshAll();
+    main_->show();
+    main_->alignForm();
+}
+
+void GameWindows::addScreenshots() {
+    shots_.add([this](Screenshots& s) {
+        main_->refreshAll();
+        screen_.flush();
+        s.save(main_.get(), QStringLiteral("frmMain.png"));
+        game_->expand("true");
+        screen_.flush();
+        s.save(main_.get(), QStringLiteral("frmMain-expanded.png"));
+        game_->expand("false");
+        screen_.flush();
+    });
+}
+
+} // namespace zorvane::screens

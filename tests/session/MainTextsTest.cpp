@@ -1,0 +1,109 @@
+#include "session/Game.h"
+#include "core/GameError.h"
+#include "session/MainTexts.h"
+#include "core/Toolbox.h"
+#include "support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace zorvane;
+using namespace zorvane::test;
+
+namespace {
+
+struct MainScreenFixture : ::testing::Test {
+    DataFolder data;
+    TestGame game{data.path().string()};
+};
+
+} // namespace
+
+TEST_F(MainScreenFixture, SummaryShowsTheTotalsInLongAndShortMoney) {
+    game->finances.setFunds(1500);
+    game->finances.earn(2500.5, "movie");
+    ASSERT_TRUE(game->finances.spend(1000, "labor"));
+    const MoneySummary s = moneySummary(*game);
+    EXPECT_EQ(s.funds, formatMoney(game->finances.funds));
+    EXPECT_EQ(s.income, "$2,500.50");
+    EXPECT_EQ(s.spent, "$1,000");
+    EXPECT_EQ(s.profit, "$1,500.50");
+    EXPECT_EQ(s.ticketSales, formatMoneyShort(2500.5));
+    EXPECT_EQ(s.depLabor, formatMoneyShort(1000));
+    EXPECT_EQ(s.depLoan, formatMoneyShort(0));
+}
+
+TEST_F(MainScreenFixture, DayBarsLightTheCurrentDayAndPutTheButtonUnderIt) {
+    game->calendar.currentday = 4;
+    game->calendar.currentweek = 2;
+    const DayBars bars = dayBars(*game);
+    for (int d = 0; d < 7; ++d) {
+        const DayBar& bar = bars.days[static_cast<std::size_t>(d)];
+        EXPECT_EQ(bar.height, d == 4 ? 375 : 255) << d;
+        EXPECT_EQ(bar.colour, d == 4 ? 0x80C0FFu : 0xC0E0FFu) << d;
+    }
+    EXPECT_EQ(bars.days[0].caption, "Sun");
+    EXPECT_EQ(bars.days[6].caption, "Sat");
+    EXPECT_LT(bars.days[3].left, bars.days[4].left);
+    EXPECT_EQ(bars.nextDayLeft, bars.days[4].left);
+    EXPECT_EQ(bars.nextDayCaption, ">>>");
+}
+
+TEST_F(MainScreenFixture, MonthLabelsLightTheCurrentMonthAndTheYearIsItsDigits) {
+    game->calendar.currentmonth = 11;
+    game->calendar.currentyear = 12;
+    const auto labels = monthLabels(*game);
+    EXPECT_EQ(labels[0].caption, "Jan");
+    EXPECT_EQ(labels[0].colour, 0xC0FFFFu);
+    EXPECT_EQ(labels[11].caption, "Dec");
+    EXPECT_EQ(labels[11].colour, 0x00FFFFu);
+    EXPECT_EQ(yearText(*game), "12");
+}
+
+TEST_F(MainScreenFixture, ExpandTogglesOrSetsTheDetailsAndTheHeightsFollow) {
+    struct Step {
+        const char* text;
+        bool expanded;
+    };
+    // Starting closed: each text in turn, and the state it leaves.
+    const Step steps[] = {{"", true}, {"", false}, {"TRUE", true}, {"maybe", true},
+                          {"true", true}, {"False", false}, {"yes", false}};
+    for (const Step& step : steps) {
+        game->expand(step.text);
+        EXPECT_EQ(game->expanded, step.expanded) << step.text;
+        const SummaryLayout l = summaryLayout(*game);
+        EXPECT_EQ(l.summaryHeight, step.expanded ? 2955 : 1275) << step.text;
+        EXPECT_EQ(l.lineVisible, step.expanded);
+        EXPECT_EQ(l.expandCaption, step.expanded ? "<<<" : ">>>");
+        EXPECT_EQ(l.modesTop, mainLayout::summaryTop + l.summaryHeight + 45);
+        EXPECT_EQ(l.mainHeight, l.modesTop + mainLayout::modesHeight + 75);
+    }
+    EXPECT_EQ(game.screen.refreshed.back(), View::Expand);
+}
+
+TEST_F(MainScreenFixture, SwitchModeRefusesANumberOutsideTheEightModes) {
+    game->switchMode(5);
+    EXPECT_EQ(game->currentMode, 5);
+    game.dialogs.answers = {Answer::Yes};
+    game->switchMode(8);
+    EXPECT_EQ(game->currentMode, 5);
+    ASSERT_EQ(game.dialogs.asked.size(), 1u);
+    EXPECT_EQ(game.dialogs.asked[0],
+              "Called switchMode with invalid mode number: 8\r\nContinue program?");
+    game.dialogs.answers = {Answer::No};
+    EXPECT_THROW(game->switchMode(-1), ProcessEnded);
+}
+
+TEST(MainScreenStartup, FormColoursComeFromTheMathFileAndMustFitIn32Bits) {
+    DataFolder data;
+    data.setMath({{"formcolor3", "12648384.5"}, {"formcolor6", "255 blue"}});
+    TestGame game{data.path().string()};
+    game->startup();
+    EXPECT_EQ(game->formColours[3], 12648384); // ties to even
+    EXPECT_EQ(game->formColours[6], 255);
+    EXPECT_FALSE(game->expanded);
+
+    DataFolder bad;
+    bad.setMath({{"formcolor7", "4294967296"}});
+    TestGame headless{bad.path().string()};
+    EXPECT_THROW(headless->startup(), GameError);
+}
