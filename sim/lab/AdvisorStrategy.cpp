@@ -11,11 +11,11 @@ namespace zorvane::lab {
 
 namespace {
 
-// The player the business advisor raises: a full, reliable staff with one on-call hand,
-// fresh movies each on a showtime of its own with the best ones in the evening, cheap
-// matinees, twice the snack stock, a couple of arcade machines priced near their
-// popularity, promotions up to the top when the money allows, the building kept open, and
-// the bank only to survive. It also keeps an eye on the goal it plays for, as a player who
+// The player the business advisor raises: a full, reliable staff with on-call hands, fresh
+// movies each on a showtime of its own with the best ones in the evening, ticket prices the
+// shows can bear with cheaper matinees, twice the snack stock, a few arcade machines priced
+// near their popularity and renewed as they fade, promotions up to the top when the money
+// allows, the building kept open and renovated when worn, and the bank only to survive. It also keeps an eye on the goal it plays for, as a player who
 // read the goal's description would.
 class AdvisorStrategy : public Strategy {
   public:
@@ -141,8 +141,8 @@ void AdvisorStrategy::keepHouseOpen(Game& game) {
 }
 
 // Every open post gets the best applicant of the day: reliability first, then the
-// experience closest to the post, then the calmer ambition, and never anybody above the
-// post. A post that stays open for days takes less.
+// experience closest to the post, then the calmer ambition. A post that stays open for
+// days takes less.
 void AdvisorStrategy::staffPositions(Game& game) {
     employeeManager& staff = game.employees;
     for (int pos = 7; pos >= 1; --pos) {
@@ -319,7 +319,8 @@ void AdvisorStrategy::bookShowtimes(Game& game) {
 // and matinee tickets take the price (in quarters) that sells the most money at the shows
 // that charge it, as the demand terms of the math file work it out. A dearer ticket loses
 // customers, and a ticket that only follows inflation ends up emptying the house. Seniors
-// keep paying half a dollar less than the matinee.
+// keep paying half a dollar less than the matinee, and the matinee half a dollar less than
+// the standard ticket at least.
 void AdvisorStrategy::setTicketPrices(Game& game) {
     const MathVars& m = game.math;
     MovieManager& mm = game.movies;
@@ -348,7 +349,7 @@ void AdvisorStrategy::setTicketPrices(Game& game) {
         return bestTakings > 0 ? bestPrice : current;
     };
     const double standard = best(false, mm.getTicketPrice(0));
-    const double matinee = std::min(standard, best(true, mm.getTicketPrice(1)));
+    const double matinee = std::min(standard - 0.5, best(true, mm.getTicketPrice(1)));
     const double senior = std::max(1.0, matinee - 0.5);
     const std::array<double, 3> prices{standard, matinee, senior};
     for (int i = 0; i < 3; ++i)

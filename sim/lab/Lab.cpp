@@ -499,7 +499,7 @@ void writeChart(const LabResult& r, std::ostream& out) {
         lo = std::min(lo, p10[m]);
         hi = std::max(hi, p90[m]);
     }
-    const double w = 800, h = 400, left = 80, top = 40, right = 20, bottom = 50;
+    const double w = 800, h = 400, left = 80, top = 40, right = 40, bottom = 50;
     auto x = [&](std::size_t m) {
         return left + (w - left - right) * (months > 1 ? double(m) / double(months - 1) : 0.0);
     };
