@@ -4,16 +4,18 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
+#include <string>
 
 namespace zorvane::lab {
 
 namespace {
 
-// The player the business advisor raises: a full, reliable staff with one on-call hand,
-// fresh movies each on a showtime of its own with the best ones in the evening, cheap
-// matinees, twice the snack stock, a couple of arcade machines priced near their
-// popularity, promotions up to the top when the money allows, the building kept open, and
-// the bank only to survive. It also keeps an eye on the goal it plays for, as a player who
+// The player the business advisor raises: a full, reliable staff with on-call hands, fresh
+// movies each on a showtime of its own with the best ones in the evening, ticket prices the
+// shows can bear with cheaper matinees, twice the snack stock, a few arcade machines priced
+// near their popularity and renewed as they fade, promotions up to the top when the money
+// allows, the building kept open and renovated when worn, and the bank only to survive. It also keeps an eye on the goal it plays for, as a player who
 // read the goal's description would.
 class AdvisorStrategy : public Strategy {
   public:
@@ -37,8 +39,10 @@ class AdvisorStrategy : public Strategy {
     int bestOffer(const Game& game, double budget) const;
     void sellOwnMovie(Game& game, int movie);
     void bookShowtimes(Game& game);
-    void keepTicketPricesUp(Game& game);
+    void setTicketPrices(Game& game);
     void runArcade(Game& game);
+    int bestMachineOffer(const Game& game, double budget) const;
+    void renovate(Game& game);
     void runPromotions(Game& game);
     void orderSnacks(Game& game);
     void keepAfloat(Game& game);
@@ -46,19 +50,29 @@ class AdvisorStrategy : public Strategy {
 
     std::array<int, 8> vacantDays_{};
     std::array<int, ConcessionManager::itemCount> shippedOrder_{};
-    int year_ = 0;
+    int onCallWait_ = 0;
+    // Who was on the staff yesterday, and who left in anger: "X quit saying 'I'm fed up with
+    // this job!!'" stands in the log, and an angry person hired again walks out at once.
+    std::set<std::string> staffYesterday_;
+    std::set<std::string> quitters_;
+    void noteQuitters(const Game& game);
+    bool hireable(const Game& game, const employee& c) const {
+        return !view::onStaff(game, c.name) && quitters_.count(c.name) == 0;
+    }
     int goalIndex_ = 0;
 };
 
 constexpr double cushion = 3000;
-constexpr int machinesWanted = 2;
-constexpr int goodMovie = 20;   // below this a movie draws next to nobody
-constexpr int goodMachine = 50; // a machine that many customers will play
-constexpr int fresher = 30;     // a swap pays only for a much more popular movie
+constexpr int machinesWanted = 4;
+constexpr std::size_t onCallWanted = 2;
+constexpr int goodMovie = 20;    // below this a movie draws next to nobody
+constexpr int goodMachine = 50;  // a machine that many customers will play
+constexpr int fadedMachine = 30; // a machine few play any more: sold for a fresh one
+constexpr int fresher = 30;      // a swap pays only for a much more popular movie
+constexpr int worn = 50;         // a house this worn breaks down one month in three
 
 void AdvisorStrategy::begin(Game& game) {
     goalIndex_ = game.goals.getSelected();
-    year_ = game.calendar.getCurrentYear();
     // "Go ahead and double your orders on everything."
     for (int i = 0; i < ConcessionManager::itemCount; ++i) {
         shippedOrder_[static_cast<std::size_t>(i)] = game.concessions.item(i).buypermonth;
@@ -67,21 +81,34 @@ void AdvisorStrategy::begin(Game& game) {
 }
 
 void AdvisorStrategy::beforeDay(Game& game) {
+    noteQuitters(game);
     keepHouseOpen(game);
+    renovate(game);
     staffPositions(game);
     keepAfloat(game);
     fillEmptyShowtimes(game);
     if (view::weekStartsToday(game))
         replaceFadingMovies(game);
     bookShowtimes(game);
-    keepTicketPricesUp(game);
+    if (view::weekStartsToday(game))
+        setTicketPrices(game);
     runArcade(game);
     runPromotions(game);
     keepOnCall(game);
+    staffYesterday_.clear();
+    for (int n = 1; n <= game.employees.employeeCount(); ++n)
+        staffYesterday_.insert(game.employees.getEmployee(n).getMyName());
     if (view::monthEndsToday(game))
         orderSnacks(game);
     repayAndBuy(game);
     keepAfloat(game);
+}
+
+// The advisor never fires anybody, so whoever left the staff overnight quit.
+void AdvisorStrategy::noteQuitters(const Game& game) {
+    for (const std::string& name : staffYesterday_)
+        if (!view::onStaff(game, name))
+            quitters_.insert(name);
 }
 
 double AdvisorStrategy::reserve(const Game& game) const {
@@ -114,8 +141,8 @@ void AdvisorStrategy::keepHouseOpen(Game& game) {
 }
 
 // Every open post gets the best applicant of the day: reliability first, then the
-// experience closest to the post, then the calmer ambition, and never anybody above the
-// post. A post that stays open for days takes less.
+// experience closest to the post, then the calmer ambition. A post that stays open for
+// days takes less.
 void AdvisorStrategy::staffPositions(Game& game) {
     employeeManager& staff = game.employees;
     for (int pos = 7; pos >= 1; --pos) {
@@ -145,17 +172,22 @@ int AdvisorStrategy::bestCandidate(const Game& game, int pos) const {
     // "I would recommend not hiring anyone with a reliability under 7."
     const int minRel = waited < 3 ? 7 : (waited < 6 ? 6 : 5);
     const int lowestExp = waited < 2 ? pos : std::max(1, pos - 2);
+    // An over-qualified hire grows angry and quits within a couple of months, so nobody above
+    // the post at first; but a closed theater loses more than a hire, so a post that stays
+    // open takes them after a few days.
+    const int highestExp = waited < 3 ? pos : 7;
     int best = 0;
     int bestScore = -1;
     for (int row = 1; row <= staff.candidateCount(); ++row) {
         const employee& c = staff.getCandidate(row);
-        // An over-qualified hire grows angry and quits, so nobody above the post.
-        if (c.exp > pos || c.getMyExp() < lowestExp || c.rel < minRel ||
-            view::onStaff(game, c.name))
+        if (c.exp > highestExp || c.getMyExp() < lowestExp || c.rel < minRel ||
+            !hireable(game, c))
             continue;
         if (c.trainingCostShown() > game.finances.getFunds() - 1)
             continue;
-        const int score = c.rel * 1000 + c.getMyExp() * 50 + (10 - c.amb);
+        const int above = std::max(0, static_cast<int>(c.exp) - pos);
+        const int score = c.rel * 1000 - above * 400 + std::min(c.getMyExp(), pos) * 50 +
+                          (10 - c.amb);
         if (score > bestScore) {
             bestScore = score;
             best = row;
@@ -165,16 +197,22 @@ int AdvisorStrategy::bestCandidate(const Game& game, int pos) const {
 }
 
 // "Keep at least one 'On-Call' employee", of low ambition, so that a sick day or a quitter
-// costs nothing.
+// costs nothing: the game puts an idle employee into an empty post before the shows. An
+// on-call hand is paid nothing while idle, but grows restless in a couple of months and
+// moves on, so the advisor keeps two, and takes a less ideal one when none came for a week.
 void AdvisorStrategy::keepOnCall(Game& game) {
     employeeManager& staff = game.employees;
-    if (!view::vacantPositions(game).empty() || !view::idleStaff(game).empty())
+    if (!view::vacantPositions(game).empty() || view::idleStaff(game).size() >= onCallWanted) {
+        onCallWait_ = 0;
         return;
+    }
+    ++onCallWait_;
+    const int maxAmb = onCallWait_ < 7 ? 4 : 7;
     int best = 0;
     int bestScore = -1;
     for (int row = 1; row <= staff.candidateCount(); ++row) {
         const employee& c = staff.getCandidate(row);
-        if (c.rel < 7 || c.amb > 4 || c.exp > 7 || view::onStaff(game, c.name))
+        if (c.rel < 7 || c.amb > maxAmb || c.exp > 7 || !hireable(game, c))
             continue;
         if (c.trainingCostShown() > spendable(game))
             continue;
@@ -184,8 +222,10 @@ void AdvisorStrategy::keepOnCall(Game& game) {
             best = row;
         }
     }
-    if (best > 0)
+    if (best > 0) {
         staff.hireEmployee(best);
+        onCallWait_ = 0;
+    }
 }
 
 // The row of the best offer (highest popularity, one the theater does not own) at or below
@@ -274,35 +314,88 @@ void AdvisorStrategy::bookShowtimes(Game& game) {
     }
 }
 
-// "Expenses increase a little every year ... keep up by raising your ticket prices." The
-// matinee stays the cheaper ticket.
-void AdvisorStrategy::keepTicketPricesUp(Game& game) {
-    const int year = game.calendar.getCurrentYear();
-    if (year == year_)
-        return;
-    year_ = year;
-    const double rise = 1 + game.math.inflation * 0.01;
+// "Expenses increase a little every year ... keep up by raising your ticket prices", but
+// not past what the shows can bear: each week, when the new movies are booked, the standard
+// and matinee tickets take the price (in quarters) that sells the most money at the shows
+// that charge it, as the demand terms of the math file work it out. A dearer ticket loses
+// customers, and a ticket that only follows inflation ends up emptying the house. Seniors
+// keep paying half a dollar less than the matinee, and the matinee half a dollar less than
+// the standard ticket at least.
+void AdvisorStrategy::setTicketPrices(Game& game) {
+    const MathVars& m = game.math;
+    MovieManager& mm = game.movies;
+    const double seats = game.building.getSeating();
+    const double common = m.demandbase + game.promos.getPromoPoints() * m.demandpromotion +
+                          game.rating.getRating() * m.demandrating;
+    auto best = [&](bool matinee, double current) {
+        double bestPrice = current;
+        double bestTakings = -1;
+        for (double price = 2; price <= 20; price += 0.25) {
+            double takings = 0;
+            for (int s = 1; s <= std::min(8, static_cast<int>(m.showtimes)); ++s) {
+                const showtime& st = mm.showtimeAt(s);
+                if (st.getMyMovie() < 1 || st.isMatinee() != matinee)
+                    continue;
+                const double demand = common + st.getMoviePopularity() * m.demandpop +
+                                      m.demandshowtime[static_cast<std::size_t>(s)] -
+                                      m.demandprice * price * 100;
+                takings += std::floor(std::clamp(demand, 1.0, 100.0) * seats / 100) * price;
+            }
+            if (takings > bestTakings + 0.5) {
+                bestTakings = takings;
+                bestPrice = price;
+            }
+        }
+        return bestTakings > 0 ? bestPrice : current;
+    };
+    const double standard = best(false, mm.getTicketPrice(0));
+    const double matinee = std::min(standard - 0.5, best(true, mm.getTicketPrice(1)));
+    const double senior = std::max(1.0, matinee - 0.5);
+    const std::array<double, 3> prices{standard, matinee, senior};
     for (int i = 0; i < 3; ++i)
-        game.movies.setTicketPrice(i, std::round(game.movies.getTicketPrice(i) * rise * 4) / 4);
+        if (mm.getTicketPrice(i) != prices[static_cast<std::size_t>(i)])
+            mm.setTicketPrice(i, prices[static_cast<std::size_t>(i)]);
 }
 
-// A couple of machines, each priced near its popularity ("popularity 75, about 75 cents"),
-// repaired when broken.
+// The machine on the market with the highest popularity, good enough to be played, at or
+// below the budget; 0 for none.
+int AdvisorStrategy::bestMachineOffer(const Game& game, double budget) const {
+    const arcadeManager& room = game.arcades;
+    int best = 0;
+    for (int i = 1; i <= static_cast<int>(room.buyGames.size()); ++i) {
+        const arcade& t = room.buyGameAt(i);
+        if (t.getPop() < goodMachine || t.getPrice() > budget)
+            continue;
+        if (best == 0 || t.getPop() > room.buyGameAt(best).getPop())
+            best = i;
+    }
+    return best;
+}
+
+// A few machines, each priced near its popularity ("popularity 75, about 75 cents"),
+// repaired when broken. "As the popularity drops over time, you should drop the play price":
+// and once nobody much plays a machine it goes back to the market for a fresh title.
 void AdvisorStrategy::runArcade(Game& game) {
     arcadeManager& room = game.arcades;
     const int shows = static_cast<int>(view::showtimesByAppeal(game).size());
     const bool booked = game.movies.myMoviesCount() * 2 >= shows; // movies come first
-    if (booked && view::vacantPositions(game).empty() && room.getMachineCount() < machinesWanted) {
-        int best = 0;
-        for (int i = 1; i <= static_cast<int>(room.buyGames.size()); ++i) {
-            const arcade& t = room.buyGameAt(i);
-            if (t.getPop() < goodMachine || t.getPrice() > spendable(game) - 5000)
+    if (booked && view::vacantPositions(game).empty()) {
+        for (int n = room.getMachineCount(); n >= 1; --n) {
+            const arcade& machine = room.myGameAt(n);
+            if (machine.getPop() >= fadedMachine && !machine.getIamBroke())
                 continue;
-            if (best == 0 || t.getPop() > room.buyGameAt(best).getPop())
-                best = i;
+            const double money = spendable(game) - 5000 + machine.getPrice();
+            const int fresh = bestMachineOffer(game, money);
+            if (fresh == 0 || (machine.getIamBroke() && machine.getPop() >= fadedMachine))
+                continue;
+            room.sellGame(n);
+            room.buyGame(fresh);
         }
-        if (best > 0)
-            room.buyGame(best);
+        if (room.getMachineCount() < machinesWanted) {
+            const int best = bestMachineOffer(game, spendable(game) - 5000);
+            if (best > 0)
+                room.buyGame(best);
+        }
     }
     for (int n = 1; n <= room.getMachineCount(); ++n) {
         arcade& machine = room.myGameAt(n);
@@ -320,6 +413,16 @@ void AdvisorStrategy::runArcade(Game& game) {
         if (machine.PricePerPlay != index)
             room.setGamePrice(n, index);
     }
+}
+
+// "Renovating": a worn house breaks down more and more often, and each repair costs more
+// than the last, so once it is worn and the money is there, the house is made good again.
+void AdvisorStrategy::renovate(Game& game) {
+    buildingManager& house = game.building;
+    if (house.getCondition() >= worn || !house.isInOrder())
+        return;
+    if (spendable(game) - house.renovateCost > 20000)
+        house.renovateBuilding();
 }
 
 // "The maximum promotion level you can get is promomax": TV spots first, the rest in the

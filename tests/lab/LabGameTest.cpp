@@ -169,3 +169,32 @@ TEST(LabBalance, TheAdvisorsTheaterEndsItsFirstYearRicher) {
         EXPECT_GT(r.months.back().funds, r.startFunds) << "seed " << seed;
     }
 }
+
+// The CSV's month: its income less its spending is what the funds moved, and the offers'
+// popularity is that of real titles.
+TEST(LabGame, AMonthsFiguresAccountForEveryDollar) {
+    DataFolder data;
+    const GameResult r = playGame(options(data, "advisor", 1), 4);
+    ASSERT_EQ(r.months.size(), 12u);
+    double funds = r.startFunds;
+    for (const MonthRecord& m : r.months) {
+        const double income = m.incMovie + m.incArcade + m.incConcessions + m.incOther;
+        const double spending = m.payLabor + m.payMovie + m.payPromo + m.payArcade +
+                                m.payConcessions + m.payLoan + m.payRent + m.payOther;
+        EXPECT_NEAR(m.funds - funds, income - spending, 0.01);
+        funds = m.funds;
+        EXPECT_GE(m.staff, 7);
+        EXPECT_GT(m.wageBill, 0);
+    }
+    EXPECT_EQ(r.months[0].payRent, 7725); // the first month's rent, with its month of inflation
+    EXPECT_EQ(r.weekOfferPops.size(), 48u);
+    EXPECT_EQ(r.monthMarketPops.size(), 12u);
+    for (double pop : r.weekOfferPops)
+        EXPECT_TRUE(pop == -1 || (pop >= 1 && pop <= 100)) << pop; // -1: nothing affordable
+    LabResult lab;
+    lab.options.years = 1;
+    lab.games = {r};
+    EXPECT_GT(offerPopularity(lab, 1), 20);
+    EXPECT_GT(marketPopularity(lab, 1), 20);
+    EXPECT_EQ(offerPopularity(lab, 2), -1); // no game played a second year
+}

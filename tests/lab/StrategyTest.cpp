@@ -139,22 +139,29 @@ TEST(AdvisorStrategy, KeepsTheMatineesCheap) {
     EXPECT_GT(advisor.game->movies.getTicketPrice(0), advisor.game->math.ticketsstandard);
 }
 
-TEST(AdvisorStrategy, BuysACoupleOfMachinesPricedNearTheirPopularity) {
+TEST(AdvisorStrategy, KeepsFourMachinesPricedNearTheirPopularityAndReplacesTheFaded) {
     DataFolder data;
     Played advisor(data, "advisor", 1);
     for (int d = 0; d < 150; ++d) {
         advisor.day();
-        ASSERT_LE(advisor.game->arcades.getMachineCount(), 2) << d;
+        ASSERT_LE(advisor.game->arcades.getMachineCount(), 4) << d;
     }
     advisor.strategy->beforeDay(*advisor.game);
     const arcadeManager& room = advisor.game->arcades;
-    ASSERT_EQ(room.getMachineCount(), 2);
+    ASSERT_EQ(room.getMachineCount(), 4);
     for (int n = 1; n <= room.getMachineCount(); ++n) {
         const arcade& machine = room.myGameAt(n);
         EXPECT_FALSE(machine.getIamBroke()) << machine.Name;
         EXPECT_EQ(machine.PricePerPlay, nearestPrice(*advisor.game, machine.getPop()))
             << machine.Name;
     }
+    // Three years on, machines fade by 1 to 4 points a month: only replaced ones stay popular.
+    for (int d = 0; d < 3 * 336; ++d)
+        advisor.day();
+    advisor.strategy->beforeDay(*advisor.game);
+    ASSERT_EQ(room.getMachineCount(), 4);
+    for (int n = 1; n <= room.getMachineCount(); ++n)
+        EXPECT_GE(room.myGameAt(n).getPop(), 30) << room.myGameAt(n).Name;
 }
 
 TEST(AdvisorStrategy, RepairsABrokenHouseBeforeTheDay) {
