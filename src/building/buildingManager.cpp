@@ -58,7 +58,7 @@ void buildingManager::breakDown() {
     IamBroken = true;
     showBuilding();
     game_.gameLog(" !!!  YOUR THEATER HAS BROKE DOWN !!! ", 0);
-    game_.screen().switchMode(buildingMode);
+    game_.switchMode(buildingMode);
     game_.setSpeed(-1);
 }
 

@@ -7,11 +7,13 @@ namespace zorvane {
 
 Game::Game(GameSetup setup)
     : rng(setup.seed), calendar(*this), finances(*this), building(*this), employees(*this),
-      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this), loans(*this),
-      graph(*this), goals(*this), files(*this), setup_(std::move(setup)),
+      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this),
+      loans(*this), graph(*this), goals(*this), files(*this), settingsBoxes(*this),
+      soundBoard(*this), tutor(*this), setup_(std::move(setup)),
       screen_(setup_.screen ? setup_.screen : &nullScreen_),
       dialogs_(setup_.dialogs ? setup_.dialogs : &nullDialogs_),
-      settings_(setup_.settings ? setup_.settings : &memorySettings_) {}
+      settings_(setup_.settings ? setup_.settings : &memorySettings_),
+      sound_(setup_.sound ? setup_.sound : &nullSound_) {}
 
 void Game::status(const std::string& line) {
     screen_->titleStatus(line);
@@ -22,6 +24,7 @@ void Game::startup() {
     status("Initializing random number generator");
     rng.reseed(setup_.seed);
     status("Loading registry settings");
+    settingsBoxes.getReg();
     std::string mathPath = getMathFile();
     status("Loading math variables from " + mathPath);
     mathFile.loadMath(math, *dialogs_, mathPath);
@@ -53,6 +56,7 @@ void Game::startup() {
     status("setting up graph");
     graph.drawGraph();
     status("starting sound board");
+    soundBoard.init();
     autoload();
     status("invoking next day");
     calendar.startCalendar();
@@ -61,6 +65,8 @@ void Game::startup() {
 void Game::startPlay(int goalIndex) {
     goals.selectGoal(goalIndex);
     goals.startGoal(goalIndex);
+    if (!playing && settingsBoxes.ticked(SettingsBox::Tutor))
+        tutor.startTutor();
     playing = true;
 }
 
@@ -183,6 +189,15 @@ bool Game::clockTick() {
         return false;
     calendar.nextDay();
     return true;
+}
+
+void Game::switchMode(int mode) {
+    if (mode < 0 || mode > 7) {
+        reportError("Called switchMode with invalid mode number: " + std::to_string(mode));
+        return;
+    }
+    screen_->switchMode(mode);
+    soundBoard.startMM(mode);
 }
 
 int Game::timerInterval() const {

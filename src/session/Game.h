@@ -5,9 +5,11 @@
 #include "core/NullScreen.h"
 #include "core/Random.h"
 #include "core/SettingsPort.h"
+#include "core/SoundPort.h"
 #include "core/Version.h"
 #include "session/Calendar.h"
 
+#include "advisor/Tutor.h"
 #include "arcade/arcadeManager.h"
 #include "building/buildingManager.h"
 #include "concessions/ConcessionManager.h"
@@ -19,6 +21,8 @@
 #include "persistence/SavedGame.h"
 #include "reputation/promoManager.h"
 #include "reputation/ratingManager.h"
+#include "settings/SettingsBoxes.h"
+#include "settings/SoundBoard.h"
 #include "staff/employeeManager.h"
 
 #include <array>
@@ -36,6 +40,7 @@ struct GameSetup {
     ScreenPort* screen = nullptr;     // null: a screen that shows nothing
     DialogPort* dialogs = nullptr;    // null: every question gets its default answer
     SettingsPort* settings = nullptr; // null: settings held in memory
+    SoundPort* sound = nullptr;       // null: silence
 };
 
 // One game session: it owns every manager, the math variables, the random generator, the
@@ -79,12 +84,17 @@ class Game {
     // the window's timer fire; days never nest). Returns whether the day ran.
     bool clockTick();
 
+    // A mode's screen (0 to 7) comes to the front and its cue plays; another number is
+    // reported through the error box.
+    void switchMode(int mode);
+
     // A file of the program's folder ("images\arcades\x.png" style names work too).
     std::string dataPath(const std::string& name) const;
 
     ScreenPort& screen() { return *screen_; }
     DialogPort& dialogs() { return *dialogs_; }
     SettingsPort& settings() { return *settings_; }
+    SoundPort& soundPort() { return *sound_; }
     const std::string& folder() const { return setup_.folder; }
     const std::string& commandLine() const { return setup_.commandLine; }
 
@@ -116,6 +126,9 @@ class Game {
     GraphManager graph;
     goalManager goals;
     SavedGame files;
+    SettingsBoxes settingsBoxes; // frmSettings
+    SoundBoard soundBoard;       // frmSound
+    Tutor tutor;                 // frmTutor, the business advisor
 
   private:
     void status(const std::string& line); // a line of the title screen's status box
@@ -124,9 +137,11 @@ class Game {
     NullScreen nullScreen_;
     ScriptedDialogs nullDialogs_;
     MemorySettings memorySettings_;
+    NullSound nullSound_;
     ScreenPort* screen_;
     DialogPort* dialogs_;
     SettingsPort* settings_;
+    SoundPort* sound_;
 };
 
 } // namespace zorvane
