@@ -115,6 +115,7 @@ const CommandTable& commandTable() {
         addGoalCommands(t);
         addFileCommands(t);
         addGraphCommands(t);
+        addSettingsCommands(t);
         return t;
     }();
     return table;

@@ -26,6 +26,7 @@ Simulator::Simulator(SimOptions options, std::ostream& out)
     setup.screen = screen_.get();
     setup.dialogs = &dialogs_;
     setup.settings = &settings_;
+    setup.sound = &sound_;
     game_ = std::make_unique<Game>(std::move(setup));
 }
 

@@ -53,6 +53,7 @@ class Simulator {
     std::vector<std::string> unreadLog_;
     ScriptedDialogs dialogs_;
     MemorySettings settings_;
+    RecordingSound sound_;
     std::unique_ptr<EchoScreen> screen_;
     std::unique_ptr<Game> game_;
 };

@@ -96,6 +96,7 @@ json gameState(Game& game) {
     addLoanState(game, s);
     addGoalState(game, s);
     addGraphState(game, s);
+    addSettingsState(game, s);
     s["math"] = mathState(game);
     return s;
 }

@@ -16,6 +16,7 @@ void addLoanCommands(CommandTable& table);
 void addGoalCommands(CommandTable& table);
 void addFileCommands(CommandTable& table);
 void addGraphCommands(CommandTable& table);
+void addSettingsCommands(CommandTable& table);
 
 void addStaffState(Game& game, nlohmann::json& state);
 void addBuildingState(Game& game, nlohmann::json& state);
@@ -26,5 +27,6 @@ void addReputationState(Game& game, nlohmann::json& state);
 void addLoanState(Game& game, nlohmann::json& state);
 void addGoalState(Game& game, nlohmann::json& state);
 void addGraphState(Game& game, nlohmann::json& state);
+void addSettingsState(Game& game, nlohmann::json& state);
 
 } // namespace zorvane::sim

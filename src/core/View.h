@@ -46,6 +46,9 @@ enum class View {
     // goals
     GoalInfo,       // showGoalInfo
     GoalList,       // lstGoals: the names of the goals, list index = goal index
+    // settings and advisor
+    Settings,       // the four boxes of frmSettings
+    Advisor,        // frmTutor: shown or hidden, and the step's text
 };
 
 } // namespace zorvane

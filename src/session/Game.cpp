@@ -8,11 +8,13 @@ namespace zorvane {
 
 Game::Game(GameSetup setup)
     : rng(setup.seed), calendar(*this), finances(*this), building(*this), employees(*this),
-      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this), loans(*this),
-      graph(*this), goals(*this), files(*this), setup_(std::move(setup)),
+      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this),
+      loans(*this), graph(*this), goals(*this), files(*this), settingsBoxes(*this),
+      soundBoard(*this), tutor(*this), setup_(std::move(setup)),
       screen_(setup_.screen ? setup_.screen : &nullScreen_),
       dialogs_(setup_.dialogs ? setup_.dialogs : &nullDialogs_),
-      settings_(setup_.settings ? setup_.settings : &memorySettings_) {}
+      settings_(setup_.settings ? setup_.settings : &memorySettings_),
+      sound_(setup_.sound ? setup_.sound : &nullSound_) {}
 
 void Game::status(const std::string& line) {
     screen_->titleStatus(line);
@@ -23,6 +25,7 @@ void Game::startup() {
     status("Initializing random number generator");
     rng.reseed(setup_.seed);
     status("Loading registry settings");
+    settingsBoxes.getReg();
     std::string mathPath = getMathFile();
     status("Loading math variables from " + mathPath);
     mathFile.loadMath(math, *dialogs_, mathPath);
@@ -55,6 +58,7 @@ void Game::startup() {
     status("setting up graph");
     graph.drawGraph();
     status("starting sound board");
+    soundBoard.init();
     autoload();
     status("invoking next day");
     calendar.startCalendar();
@@ -67,6 +71,8 @@ void Game::startPlay(int listIndex) {
     goals.startGoal(listIndex);
     if (!playing)
         status("bringing up main form");
+    if (!playing && settingsBoxes.ticked(SettingsBox::Tutor))
+        tutor.startTutor();
     playing = true;
 }
 

@@ -5,9 +5,11 @@
 #include "core/NullScreen.h"
 #include "core/Random.h"
 #include "core/SettingsPort.h"
+#include "core/SoundPort.h"
 #include "core/Version.h"
 #include "session/Calendar.h"
 
+#include "advisor/Tutor.h"
 #include "arcade/arcadeManager.h"
 #include "building/buildingManager.h"
 #include "concessions/ConcessionManager.h"
@@ -19,6 +21,8 @@
 #include "persistence/SavedGame.h"
 #include "reputation/promoManager.h"
 #include "reputation/ratingManager.h"
+#include "settings/SettingsBoxes.h"
+#include "settings/SoundBoard.h"
 #include "staff/employeeManager.h"
 
 #include <array>
@@ -36,6 +40,7 @@ struct GameSetup {
     ScreenPort* screen = nullptr;     // null: a screen that shows nothing
     DialogPort* dialogs = nullptr;    // null: every question gets its default answer
     SettingsPort* settings = nullptr; // null: settings held in memory
+    SoundPort* sound = nullptr;       // null: silence
 };
 
 // One game session: it owns every manager, the math variables, the random generator, the
@@ -95,6 +100,7 @@ class Game {
     ScreenPort& screen() { return *screen_; }
     DialogPort& dialogs() { return *dialogs_; }
     SettingsPort& settings() { return *settings_; }
+    SoundPort& soundPort() { return *sound_; }
     const std::string& folder() const { return setup_.folder; }
     const std::string& commandLine() const { return setup_.commandLine; }
 
@@ -130,6 +136,9 @@ class Game {
     GraphManager graph;
     goalManager goals;
     SavedGame files;
+    SettingsBoxes settingsBoxes; // frmSettings
+    SoundBoard soundBoard;       // frmSound
+    Tutor tutor;                 // frmTutor, the business advisor
 
   private:
     void status(const std::string& line); // a line of the title screen's status box
@@ -139,9 +148,11 @@ class Game {
     NullScreen nullScreen_;
     ScriptedDialogs nullDialogs_;
     MemorySettings memorySettings_;
+    NullSound nullSound_;
     ScreenPort* screen_;
     DialogPort* dialogs_;
     SettingsPort* settings_;
+    SoundPort* sound_;
 };
 
 } // namespace zorvane

@@ -93,6 +93,7 @@ void Game::switchMode(int mode) {
     }
     currentMode = mode;
     screen_->switchMode(mode);
+    soundBoard.startMM(mode);
 }
 
 // Every mode's screen and button take the leading number of its formcolor, rounded into 32
