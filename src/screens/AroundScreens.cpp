@@ -12,13 +12,14 @@
 #include "ports/QtDialogs.h"
 #include "ports/QtScreen.h"
 
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 namespace zorvane::screens {
 
 AroundScreens::AroundScreens(Game& game, QtScreen& screen, QtDialogs& dialogs, frmMain& main,
                              std::function<void()> showMain)
-    : main_(main), loader_(std::make_unique<frmLoader>(game)),
+    : game_(game), main_(main), loader_(std::make_unique<frmLoader>(game)),
       log_(std::make_unique<frmLog>(game)),
       help_(std::make_unique<HelpWindow>(QString::fromStdString(game.dataPath("zorvane.hlp")))),
       menuFile_(new frmMenuFile(game, &main)), goal_(new frmGoal(game, &main)),
@@ -46,6 +47,10 @@ AroundScreens::~AroundScreens() = default;
 
 void AroundScreens::addScreenshots(Screenshots& shots) {
     shots.add([this](Screenshots& s) {
+        // The title screen with the goal in force picked in its list, as the player sees it
+        // after a click there (picking the selected goal again changes nothing).
+        if (auto* goals = loader_->findChild<QListWidget*>(QStringLiteral("lstGoals")))
+            goals->setCurrentRow(game_.goals.getSelected());
         s.save(loader_.get(), QStringLiteral("frmLoader.png"));
         s.save(menuFile_, QStringLiteral("frmMenuFile.png"));
         log_->copyLog();

@@ -44,6 +44,7 @@ public:
     HelpWindow& help() { return *help_; }
 
 private:
+    Game& game_;
     frmMain& main_;
     std::unique_ptr<frmLoader> loader_;
     std::unique_ptr<frmLog> log_;
