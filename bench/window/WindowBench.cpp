@@ -59,6 +59,11 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
     if (state.range(0) != 0)
         window.showLog();
     Game& game = window.w->game();
+    // A year of the demo theater may end in a lost game: the picture would wait for a
+    // double click, so here it only counts.
+    int pictures = 0;
+    window.w->screen().onShowLose = [&pictures] { ++pictures; };
+    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
     game.setSpeed(3);
     window.w->main().clock()->stop(); // the benchmark is the clock
     QCoreApplication::processEvents();
@@ -76,6 +81,7 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
         }
     }
     // Seconds per day, printed with its unit (e.g. 450u is 0.45 ms).
+    state.counters["pictures"] = pictures;
     state.counters["per_day"] = benchmark::Counter(
         336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }

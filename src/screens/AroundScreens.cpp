@@ -13,6 +13,7 @@
 #include "ports/QtScreen.h"
 
 #include <QListWidget>
+#include <QMetaObject>
 #include <QPlainTextEdit>
 
 namespace zorvane::screens {
@@ -30,8 +31,24 @@ AroundScreens::AroundScreens(Game& game, QtScreen& screen, QtDialogs& dialogs, f
                          if (showMain)
                              showMain();
                      });
-    screen.onLogLine.push_back(
-        [this](const std::string& line, bool) { log_->appendLine(QString::fromStdString(line)); });
+    // A day writes several lines: they go into the log window together, once per pass of
+    // the event loop, as they do into the main log box (one edit of the box, not ten).
+    screen.onLogLine.push_back([this](const std::string& line, bool) {
+        if (logScheduled_)
+            pendingLog_ += QLatin1Char('\n');
+        pendingLog_ += QString::fromStdString(line);
+        if (logScheduled_)
+            return;
+        logScheduled_ = true;
+        QMetaObject::invokeMethod(
+            log_.get(),
+            [this] {
+                logScheduled_ = false;
+                log_->appendLine(pendingLog_);
+                pendingLog_.clear();
+            },
+            Qt::QueuedConnection);
+    });
     screen.onShowGoal = [this] { goal_->showModal(); };
     screen.onShowLose = [this] { lose_->showModal(); };
     dialogs.onHelp = [this](const std::string&) { help_->showContents(); };
