@@ -154,7 +154,6 @@ int main(int argc, char** argv) {
         setup.seed = static_cast<std::uint64_t>(QTime(0, 0).secsTo(QTime::currentTime()));
         GameWindows windows(setup);
         windows.startup();
-        windows.showTitle();
         return app.exec();
     } catch (const ProcessEnded&) {
         return 0;

@@ -1,4 +1,6 @@
 #pragma once
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -44,10 +46,14 @@ public:
     HelpWindow& help() { return *help_; }
 
 private:
+    Game& game_;
     frmMain& main_;
     std::unique_ptr<frmLoader> loader_;
     std::unique_ptr<frmLog> log_;
     std::unique_ptr<HelpWindow> help_;
+    // The log lines of this pass, waiting to go into the log window together.
+    QString pendingLog_;
+    bool logScheduled_ = false;
     // Children of the main screen, which owns them.
     frmMenuFile* menuFile_;
     frmGoal* goal_;

@@ -1,5 +1,7 @@
 #include "GameWindows.h"
 
+#include "AroundScreens.h"
+#include "frmLoader.h"
 #include "frame/ButtonLabel.h"
 #include "frmArcade.h"
 #include "frmBuilding.h"
@@ -36,21 +38,20 @@ GameWindows::GameWindows(WindowsSetup setup) {
               new frmConcessions(*game_, 0, main_.get()), new frmLoans(*game_, 0, main_.get()),
               new frmGraphs(*game_, 0, main_.get()),      new frmBuilding(*game_, 0, main_.get())};
     main_->setModeScreens(modes_);
+    around_ = std::make_unique<AroundScreens>(*game_, screen_, qtDialogs_, *main_,
+                                              [this] { showMain(); });
     addScreenshots();
+    around_->addScreenshots(shots_);
 }
 
 GameWindows::~GameWindows() = default;
 
 void GameWindows::startup() {
+    around_->loader().show();
     game_->startup();
     // Start-up's "setting up forms" has turned each formcolor into a colour.
     main_->setupForms();
     main_->refreshAll();
-}
-
-void GameWindows::showTitle() {
-    game_->startPlay(-1);
-    showMain();
 }
 
 void GameWindows::showMain() {

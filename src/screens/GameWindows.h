@@ -11,6 +11,7 @@
 
 namespace zorvane::screens {
 
+class AroundScreens;
 class ChildFrame;
 class frmMain;
 
@@ -31,11 +32,9 @@ public:
     explicit GameWindows(WindowsSetup setup);
     ~GameWindows();
 
-    // The entry routine, its status lines going to the title screen's box.
+    // The title screen comes up, then the entry routine runs, its status lines going to the
+    // title screen's box. The game then waits there for "Play !".
     void startup();
-    // After start-up: the title screen waits for "Play !". Until the title screen is built,
-    // Free Play starts at once.
-    void showTitle();
     // "Play !" pressed for the first time: the main screen comes up where it last was.
     void showMain();
 
@@ -43,6 +42,8 @@ public:
     QtScreen& screen() { return screen_; }
     QtDialogs& qtDialogs() { return qtDialogs_; }
     frmMain& main() { return *main_; }
+    // The title screen, file menu, log window, end pictures and help.
+    AroundScreens& around() { return *around_; }
     ChildFrame* modeScreen(int mode) { return modes_[static_cast<std::size_t>(mode)]; }
     Screenshots& screenshots() { return shots_; }
 
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<Game> game_;
     std::unique_ptr<frmMain> main_;
     std::array<ChildFrame*, 8> modes_{};
+    std::unique_ptr<AroundScreens> around_;
     Screenshots shots_;
 };
 
