@@ -1,17 +1,49 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs the whole test suite twice: once as shipped,
-# once under AddressSanitizer and UndefinedBehaviorSanitizer.
+# Installs what is missing, builds, and runs the whole test suite three times: as shipped
+# (GCC), under AddressSanitizer and UndefinedBehaviorSanitizer (GCC), and the logic's tests
+# built with clang, so that a seed replays the same game whichever compiler built it.
+# Warnings are errors here. The end is each run's summary; the very last line is CTest's own
+# summary of the first run that failed, or of the last run when all passed.
 set -euo pipefail
 cd "$(dirname "$0")"
 tools/install-deps.sh
 jobs=$(nproc)
+summaries=()
+final=""
+failed=0
 
-cmake -S . -B build/release -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVANE_GUI=OFF >/dev/null
+# Runs one build's tests; a failure is reported and the other builds still run.
+run_tests() {
+    local name=$1 dir=$2
+    shift 2
+    local log="$dir/ctest.log" status=0
+    env "$@" ctest --test-dir "$dir" -j"$jobs" --output-on-failure 2>&1 | tee "$log" || status=$?
+    local line
+    line=$(grep -E '^[0-9]+% tests passed' "$log" | tail -1 || true)
+    summaries+=("$name: $line")
+    if ((failed == 0)); then
+        final=$line
+    fi
+    if ((status != 0)); then
+        failed=1
+    fi
+}
+
+cmake -S . -B build/release -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVANE_GUI=OFF \
+      -DZORVANE_WERROR=ON >/dev/null
 cmake --build build/release -j"$jobs"
-ctest --test-dir build/release -j"$jobs" --output-on-failure
+run_tests gcc build/release
+
+CC=clang-14 CXX=clang++-14 cmake -S . -B build/clang -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+      -DZORVANE_GUI=OFF -DZORVANE_BENCH=OFF -DZORVANE_WERROR=ON >/dev/null
+cmake --build build/clang -j"$jobs"
+run_tests clang build/clang
 
 cmake -S . -B build/sanitize -DCMAKE_BUILD_TYPE=Debug -DZORVANE_SANITIZE=ON \
-      -DZORVANE_GUI=OFF -DZORVANE_BENCH=OFF >/dev/null
+      -DZORVANE_GUI=OFF -DZORVANE_BENCH=OFF -DZORVANE_WERROR=ON >/dev/null
 cmake --build build/sanitize -j"$jobs"
-ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-    ctest --test-dir build/sanitize -j"$jobs" --output-on-failure
+run_tests sanitize build/sanitize \
+    ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+
+printf '%s\n' "${summaries[@]}" "$final"
+exit "$failed"
