@@ -4,7 +4,8 @@
 
 using namespace zorvane;
 
-// Reading the shipped math.txt: start-up step 6 and "Reload math".
+// Reading the shipped math.txt, as the game does at start-up (right after the settings,
+// before any screen or list is set up) and again on "Reload math".
 static void BM_loadMath(benchmark::State& state) {
     GameSetup setup;
     setup.folder = ZORVANE_SOURCE_DATA;

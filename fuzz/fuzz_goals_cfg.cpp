@@ -1,9 +1,11 @@
 // Fuzz target of goals.cfg: the goals read at start-up, each one picked and played.
 //
-// The input is the program folder's goals.cfg, read as start-up step 11 reads it. Every goal
-// of the list is then picked on the title screen, started (its starting funds, debt, credit
-// score and payments go through the bank as "Play !" applies them), tested for a day and
-// shown in the "Goal Details" box.
+// The input is the program folder's goals.cfg, read as the game reads it at start-up: after
+// the math file, the default values, the promotions and the job positions, before the
+// concessions and the lists of movies, employees and arcade games. Every goal of the list
+// is then picked on the title screen, started (its starting funds, debt, credit score and
+// payments go through the bank as "Play !" applies them), tested for a day and shown in the
+// "Goal Details" box.
 #include "FuzzSupport.h"
 
 using namespace zorvane;

@@ -50,6 +50,10 @@ const std::vector<std::string>& RandomStrategy::commands() {
     return all;
 }
 
+// Every draw stands in a statement of its own, never two in one argument list or sum, whose
+// order the language leaves to the compiler: a seed plays the same game with any compiler.
+// Where one call takes two drawn values they are drawn in the order this player has always
+// drawn them (the last argument first), so the lab's games stay the ones it has measured.
 int RandomStrategy::pick(int lo, int hi) {
     if (hi <= lo)
         return lo;
@@ -209,14 +213,18 @@ void RandomStrategy::showtimes(Game& game) {
         mm.showtimeAt(pick(1, 8)).toggleMatinee();
     } else {
         did("ads");
-        mm.setShowtimeAds(pick(1, 8), pick(0, 8));
+        const int ads = pick(0, 8);
+        const int show = pick(1, 8);
+        mm.setShowtimeAds(show, ads);
     }
 }
 
 // The three ticket price boxes.
 void RandomStrategy::prices(Game& game) {
     did("ticket");
-    game.movies.setTicketPrice(pick(0, 2), digitsValue(money(0, 15)));
+    const double price = digitsValue(money(0, 15));
+    const int which = pick(0, 2);
+    game.movies.setTicketPrice(which, price);
 }
 
 // Quality, price and monthly order of the five snacks.
@@ -291,8 +299,9 @@ void RandomStrategy::arcadeMachine(Game& game) {
         did("move");
         const auto grabX = static_cast<float>(pick(0, 900));
         const auto grabY = static_cast<float>(pick(0, 1400));
-        room.moveCabinet(n, static_cast<float>(pick(-3000, 3000)),
-                         static_cast<float>(pick(-2000, 2000)), grabX, grabY);
+        const auto y = static_cast<float>(pick(-2000, 2000));
+        const auto x = static_cast<float>(pick(-3000, 3000));
+        room.moveCabinet(n, x, y, grabX, grabY);
     }
 }
 
@@ -316,7 +325,9 @@ void RandomStrategy::promotions(Game& game) {
 void RandomStrategy::bank(Game& game) {
     if (chance(60)) {
         did("loan");
-        view::takeLoan(game, pick(0, 150) * 1000, pick(1, 60));
+        const int payments = pick(1, 60);
+        const int amount = pick(0, 150) * 1000;
+        view::takeLoan(game, amount, payments);
     } else {
         did("payoff");
         game.loans.payOffLoan();

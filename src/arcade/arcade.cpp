@@ -6,9 +6,8 @@
 #include "session/Game.h"
 
 #include <cfloat>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 namespace zorvane {
 
@@ -20,12 +19,17 @@ const std::string arcadeFolder = "images\\arcades\\";
 // value would not read back the same.
 std::string floatText(float value) {
     char buf[32];
+    char* end = buf;
     for (int digits = 7; digits <= 9; ++digits) {
-        std::snprintf(buf, sizeof buf, "%.*g", digits, static_cast<double>(value));
-        if (std::strtof(buf, nullptr) == value)
+        end = std::to_chars(buf, buf + sizeof buf, static_cast<double>(value),
+                            std::chars_format::general, digits)
+                  .ptr;
+        float back = 0;
+        std::from_chars(buf, end, back);
+        if (back == value)
             break;
     }
-    return buf;
+    return std::string(buf, end);
 }
 
 float toFloat(double value, const std::string& key) {

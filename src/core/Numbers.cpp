@@ -2,21 +2,13 @@
 
 #include "core/GameError.h"
 
-#include <cfloat>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
 namespace zorvane {
 
 namespace {
-
-std::string describe(double value) {
-    char buf[40];
-    std::snprintf(buf, sizeof buf, "%.15g", value);
-    return buf;
-}
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -24,7 +16,7 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 void throwOverflow(double value, const char* into) {
     throw GameError(GameError::Kind::Overflow,
-                    "overflow: " + describe(value) + " does not fit " + into);
+                    "overflow: " + numberText(value) + " does not fit " + into);
 }
 
 double roundHalfEven(double value) {
@@ -98,18 +90,57 @@ static std::size_t scanNumber(std::string_view text, std::size_t start) {
     return i - start;
 }
 
-// A number beyond the range of a double (1e400, or three hundred and ten digits) is an
-// overflow, as the game's number reading has always raised it, not an infinity.
+// Where the first significant digit of a scanned number stands: 0 for the units, 2 for the
+// hundreds, -1 for the tenths. Only asked of a number out of a double's range, to tell a
+// number too large from one too small.
+static long long magnitude(std::string_view s) {
+    long long intDigits = 0, fracZeros = 0;
+    bool fraction = false, found = false;
+    std::size_t i = 0;
+    for (; i < s.size() && s[i] != 'e'; ++i) {
+        if (s[i] == '.') {
+            fraction = true;
+        } else if (s[i] != '0' || found) {
+            found = true;
+            intDigits += !fraction;
+        } else {
+            fracZeros += fraction; // a zero before the first significant digit
+        }
+    }
+    long long exponent = 0;
+    bool negative = false;
+    for (++i; i < s.size(); ++i) {
+        if (s[i] == '-')
+            negative = true;
+        else if (isDigit(s[i]) && exponent < 1000000000)
+            exponent = exponent * 10 + (s[i] - '0');
+    }
+    const long long place = intDigits > 0 ? intDigits - 1 : -fracZeros - 1;
+    return place + (negative ? -exponent : exponent);
+}
+
+// Reads what scanNumber found, with the same result under any locale of the process. A
+// number beyond the range of a double (1e400, or three hundred and ten digits) is an
+// overflow, as the game's number reading has always raised it, not an infinity; one too
+// small to tell from 0 (1e-400) reads as 0.
 static double parseScanned(std::string_view text) {
     std::string s(text);
     for (char& c : s)
-        if (c == 'd' || c == 'D')
+        if (c == 'd' || c == 'D' || c == 'E')
             c = 'e';
-    const double value = std::strtod(s.c_str(), nullptr);
-    if (std::isinf(value))
-        throw GameError(GameError::Kind::Overflow,
-                        "overflow: the number " + std::string(text) + " is too large");
-    return value;
+    const bool negative = !s.empty() && s[0] == '-';
+    if (!s.empty() && (s[0] == '+' || s[0] == '-'))
+        s.erase(0, 1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(s.data(), s.data() + s.size(), value);
+    (void)end;
+    if (error == std::errc::result_out_of_range) {
+        if (magnitude(s) >= 0)
+            throw GameError(GameError::Kind::Overflow,
+                            "overflow: the number " + std::string(text) + " is too large");
+        value = 0;
+    }
+    return negative ? -value : value;
 }
 
 double leadingNumber(std::string_view text) {
@@ -138,8 +169,15 @@ double strictNumber(std::string_view text, const std::string& what) {
 
 std::string numberText(double value) {
     char buf[40];
-    std::snprintf(buf, sizeof buf, "%.15g", value);
-    return buf;
+    const auto end = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, 15).ptr;
+    return std::string(buf, end);
+}
+
+std::string fixedText(double value, int decimals) {
+    char buf[512]; // a double's largest whole part has 309 digits
+    const auto end =
+        std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed, decimals).ptr;
+    return std::string(buf, end);
 }
 
 std::string numberTextSigned(double value) {

@@ -99,5 +99,9 @@ private:
 std::string numberText(double value);
 // The same with one blank before a non-negative number, as the older sections write it.
 std::string numberTextSigned(double value);
+// A number with a fixed count of decimals (0 to 100), rounded: "1234.50".
+std::string fixedText(double value, int decimals);
+// All of these read and write with a point and no grouping, whatever locale the process
+// runs in: the files of one player read the same for every other.
 
 } // namespace zorvane

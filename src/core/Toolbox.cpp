@@ -3,9 +3,8 @@
 #include "core/GameError.h"
 #include "core/Numbers.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 namespace zorvane {
 
@@ -46,7 +45,15 @@ std::string toLower(std::string_view text) {
 namespace {
 
 // The value read back from its 15-significant-digit text, as the game compares amounts.
-double shortest(double value) { return std::strtod(numberText(value).c_str(), nullptr); }
+// The largest doubles round up past the range there and read back as infinite.
+double shortest(double value) {
+    const std::string text = numberText(value);
+    double y = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), y).ec ==
+        std::errc::result_out_of_range)
+        y = value < 0 ? -HUGE_VAL : HUGE_VAL;
+    return y;
+}
 
 std::string group(const std::string& digits) {
     std::string out;
@@ -68,13 +75,19 @@ std::string formatGrouped(double value, int decimals) {
     const bool negative = value < 0;
     // 15 significant digits, then a decimal rounding half away from zero.
     char buf[64];
-    std::snprintf(buf, sizeof buf, "%.14e", std::fabs(value));
+    const char* const end = std::to_chars(buf, buf + sizeof buf, std::fabs(value),
+                                          std::chars_format::scientific, 14)
+                                .ptr;
     std::string mant;
     const char* p = buf;
-    for (; *p && *p != 'e'; ++p)
+    for (; p != end && *p != 'e'; ++p)
         if (*p != '.')
             mant += *p;
-    const int exp10 = std::atoi(p + 1);
+    int exp10 = 0; // the exponent behind the "e": a sign and at least two digits
+    for (const char* q = p + 2; q < end; ++q)
+        exp10 = exp10 * 10 + (*q - '0');
+    if (p + 1 < end && p[1] == '-')
+        exp10 = -exp10;
     // mant holds 15 digits d0 d1 ... with the point after d0, scaled by 10^exp10.
     // Integer digits: exp10 + 1 (may be <= 0). Keep exp10 + 1 + decimals digits.
     const int keep = exp10 + 1 + decimals;

@@ -92,16 +92,12 @@ TEST(Random, PercentRollIsOneToHundredAndDrivable) {
     EXPECT_EQ(r.next(), 0.5);
 }
 
-TEST(Random, SameSeedSameGame) {
-    Random a(7), b(7), c(8);
-    bool differs = false;
-    for (int i = 0; i < 100; ++i) {
-        const double x = a.next();
-        EXPECT_EQ(x, b.next());
-        differs |= (x != c.next());
-        ASSERT_GE(x, 0.0);
-        ASSERT_LT(x, 1.0);
-    }
-    EXPECT_TRUE(differs);
-    EXPECT_EQ(a.draws(), 100u);
+TEST(Random, ASeedGivesTheSameDrawsWithAnyCompiler) {
+    // Pinned: a change to the engine or its seeding would replay no seed as before.
+    Random a(20261123);
+    for (const double expected : {0x1.c718d0f4346c3p-1, 0x1.8a93bd2c8bff6p-1,
+                                  0x1.8333b1e56f3bfp-1, 0x1.800f717056808p-3})
+        EXPECT_EQ(a.next(), expected);
+    EXPECT_EQ(a.draws(), 4u);
+    EXPECT_EQ(Random(0).next(), 0x1.b558c1c3dad49p-1);
 }
