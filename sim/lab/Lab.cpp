@@ -5,14 +5,13 @@
 #include "core/GameError.h"
 #include "movies/Demand.h"
 #include "reputation/ratingTerms.h"
-#include "core/Numbers.h"
 #include "session/Game.h"
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
-#include <iomanip>
 #include <locale>
+#include <iomanip>
 #include <ostream>
 #include <sstream>
 #include <thread>
@@ -288,19 +287,6 @@ LabResult runLab(const LabOptions& options) {
     return result;
 }
 
-namespace {
-
-// The lab's tables are written with the game's own number texts: a point for decimals and
-// no grouping, whatever locale the process or the stream was given.
-std::string fixed(double value, int decimals) { return fixedText(value, decimals); }
-std::string whole(std::uint64_t value) { return std::to_string(value); }
-std::string whole(int value) { return std::to_string(value); }
-std::string right(const std::string& text, std::size_t width) {
-    return std::string(width > text.size() ? width - text.size() : 0, ' ') + text;
-}
-
-} // namespace
-
 void printSummary(const LabResult& r, std::ostream& out) {
     out.imbue(std::locale::classic()); // figures never take the player's decimal comma
     const auto n = static_cast<double>(std::max<std::size_t>(1, r.games.size()));
@@ -314,21 +300,21 @@ void printSummary(const LabResult& r, std::ostream& out) {
         reached += g.goalReached;
         fatal += !g.fatal.empty();
     }
-    out << "strategy " + r.options.strategy + ", " + whole(r.games.size()) + " games, " +
-               whole(r.options.years) + " year(s), seeds " + whole(r.options.seed) + " to " +
-               whole(r.options.seed + r.games.size() - 1) + ", goal " + whole(r.options.goal) +
-               "\n";
-    out << "lost: " + whole(lost) + " (" + fixed(100.0 * lost / n, 1) + "%): funds " +
-               whole(byRoad[1]) + ", rent " + whole(byRoad[2]) + ", loan " + whole(byRoad[3]) +
-               "; within two years " + whole(lostInTwoYears) + "\n";
-    out << "goal reached: " + whole(reached) + " (" + fixed(100.0 * reached / n, 1) + "%)\n";
-    out << "fatal errors: " + whole(fatal) + "\n";
+    out << std::fixed << std::setprecision(1);
+    out << "strategy " << r.options.strategy << ", " << r.games.size() << " games, "
+        << r.options.years << " year(s), seeds " << r.options.seed << " to "
+        << r.options.seed + r.games.size() - 1 << ", goal " << r.options.goal << "\n";
+    out << "lost: " << lost << " (" << 100.0 * lost / n << "%): funds " << byRoad[1] << ", rent "
+        << byRoad[2] << ", loan " << byRoad[3] << "; within two years " << lostInTwoYears << "\n";
+    out << "goal reached: " << reached << " (" << 100.0 * reached / n << "%)\n";
+    out << "fatal errors: " << fatal << "\n";
     for (const GameResult& g : r.games)
         if (!g.fatal.empty()) {
-            out << "  first fatal (seed " + whole(g.seed) + ", day " + whole(g.fatalOnDay) +
-                       "): " + g.fatal + "\n";
+            out << "  first fatal (seed " << g.seed << ", day " << g.fatalOnDay << "): " << g.fatal
+                << "\n";
             break;
         }
+    out << std::setprecision(0);
     out << "year  funds p10     p50       p90       above start\n";
     for (int y = 1; y <= r.options.years; ++y) {
         const auto m = static_cast<std::size_t>(y * 12 - 1);
@@ -336,9 +322,8 @@ void printSummary(const LabResult& r, std::ostream& out) {
         int above = 0;
         for (std::size_t i = 0; i < r.games.size(); ++i)
             above += v[i] > r.games[i].startFunds;
-        out << right(whole(y), 4) + "  " + right(fixed(quantile(v, 0.1), 0), 10) +
-                   right(fixed(quantile(v, 0.5), 0), 10) + right(fixed(quantile(v, 0.9), 0), 10) +
-                   "  " + whole(above) + "\n";
+        out << std::setw(4) << y << "  " << std::setw(10) << quantile(v, 0.1) << std::setw(10)
+            << quantile(v, 0.5) << std::setw(10) << quantile(v, 0.9) << "  " << above << "\n";
     }
     const int last = r.options.years;
     auto freshness = [&](const char* what, double first, double end) {
@@ -540,25 +525,25 @@ void writeChart(const LabResult& r, std::ostream& out) {
     out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\""
         << h + panel << "\" font-family=\"sans-serif\" font-size=\"12\">\n";
     out << "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-    out << "<text x=\"" + fixed(left, 1) + "\" y=\"24\" font-size=\"15\">Zorvane lab: " +
-               r.options.strategy + ", " + whole(r.games.size()) +
-               " games, month-end funds (10th-90th percentile, median)</text>\n";
+    out << "<text x=\"" << left
+        << "\" y=\"24\" font-size=\"15\">Zorvane lab: " << r.options.strategy << ", "
+        << r.games.size() << " games, month-end funds (10th-90th percentile, median)</text>\n";
     out << "<polygon fill=\"#9ecae1\" stroke=\"none\" points=\"";
     for (std::size_t m = 0; m < months; ++m)
-        out << x(m) + ',' + y(p90[m]) + ' ';
+        out << x(m) << ',' << y(p90[m]) << ' ';
     for (std::size_t m = months; m-- > 0;)
-        out << x(m) + ',' + y(p10[m]) + ' ';
+        out << x(m) << ',' << y(p10[m]) << ' ';
     out << "\"/>\n<polyline fill=\"none\" stroke=\"#08519c\" stroke-width=\"2\" points=\"";
     for (std::size_t m = 0; m < months; ++m)
-        out << x(m) + ',' + y(p50[m]) + ' ';
+        out << x(m) << ',' << y(p50[m]) << ' ';
     out << "\"/>\n";
-    out << "<line x1=\"" + fixed(left, 1) + "\" y1=\"" + y(0) + "\" x2=\"" + fixed(w - right, 1) +
-               "\" y2=\"" + y(0) + "\" stroke=\"#555\" stroke-dasharray=\"4 3\"/>\n";
+    out << "<line x1=\"" << left << "\" y1=\"" << y(0) << "\" x2=\"" << w - right << "\" y2=\""
+        << y(0) << "\" stroke=\"#555\" stroke-dasharray=\"4 3\"/>\n";
     for (int i = 0; i <= 4; ++i) {
         const double f = lo + (hi - lo) * i / 4;
-        out << "<text x=\"" + fixed(left - 6, 1) + "\" y=\"" +
-                   fixed(yAt(f) + 4, 1) +
-                   "\" text-anchor=\"end\">$" + fixed(f, 0) + "</text>\n";
+        out << "<text x=\"" << left - 6 << "\" y=\"" << y(f) + 4 << "\" text-anchor=\"end\">$"
+            << std::setprecision(0) << f << "</text>\n"
+            << std::setprecision(1);
     }
     auto yearLabels = [&](double at) {
         for (int yr = 0; yr <= r.options.years; ++yr) {
