@@ -251,19 +251,4 @@ const std::array<std::string, 9>& buildingManager::buildingDescriptions() {
     return descriptions;
 }
 
-BuildingTexts buildingManager::buildingTexts() const {
-    BuildingTexts t;
-    t.values = {digits(game_.calendar.getCurrentYear()) + " Years",
-                digits(condition) + " %",
-                formatMoneyShort(repairCost),
-                formatMoneyShort(renovateCost),
-                formatMoneyShort(rent),
-                formatMoneyShort(totalRentPaid),
-                formatMoneyShort(getPurchasePrice()),
-                digits(seating),
-                formatMoneyShort(remodelcost)};
-    t.outOfOrder = IamBroken;
-    return t;
-}
-
 } // namespace zorvane

@@ -10,13 +10,6 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// What the building screen shows: the nine values beside their fixed descriptions, and
-// whether the out-of-order sign stands over the house.
-struct BuildingTexts {
-    std::array<std::string, 9> values;
-    bool outOfOrder = false;
-};
-
 // The theater's house: its seats, its wear, whether it is out of order, and what the player
 // pays for it. A worn house breaks down at random and no business is done while it is
 // broken. Rent is due monthly until the house is bought; rent unpaid too long loses the game.
@@ -62,8 +55,6 @@ class buildingManager {
     void saveBuilding(LineWriter& out) const;
     void loadBuilding(LineReader& in);
 
-    // The texts the building screen shows, as `showBuilding` fills them.
-    BuildingTexts buildingTexts() const;
     static const std::array<std::string, 9>& buildingDescriptions();
 
     Game& game() { return game_; }

@@ -142,15 +142,6 @@ void ConcessionManager::showLastMonthIncome() {
     game_.screen().refresh(View::ConcessionTotals);
 }
 
-ConcessionTotals ConcessionManager::totals() const {
-    double monthly = 0;
-    for (const Concession& c : items_)
-        monthly += c.getMyMonthlyCost();
-    return {formatMoney(shownTotalMyCost_), std::to_string(shownTotalSold_),
-            formatMoneyShort(shownTotalProfit_), formatMoney(monthly),
-            formatMoneyShort(shownIncomeLastMonth_)};
-}
-
 void ConcessionManager::saveConcessions(LineWriter& out) const {
     out << "<concessions>";
     for (const Concession& c : items_)

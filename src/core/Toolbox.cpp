@@ -25,7 +25,9 @@ std::string digitsOnly(std::string_view text) {
     return out;
 }
 
-double digitsValue(std::string_view text) { return leadingNumber(digitsOnly(text)); }
+double digitsValue(std::string_view text) {
+    return leadingNumber(digitsOnly(text));
+}
 
 std::string trimRight(std::string_view text) {
     std::size_t end = text.size();
@@ -42,11 +44,12 @@ std::string toLower(std::string_view text) {
     return out;
 }
 
-
 namespace {
 
 // The value read back from its 15-significant-digit text, as the game compares amounts.
-double shortest(double value) { return std::strtod(numberText(value).c_str(), nullptr); }
+double shortest(double value) {
+    return std::strtod(numberText(value).c_str(), nullptr);
+}
 
 std::string group(const std::string& digits) {
     std::string out;
@@ -141,6 +144,18 @@ double getPercent(double min, double max, double value) {
                         "division by zero: a percent of a range whose ends are equal (" +
                             numberText(min) + ")");
     return value * 100 / (max - min);
+}
+
+std::string dataPath(const std::string& folder, const std::string& name) {
+    std::string rel = name;
+    for (char& ch : rel)
+        if (ch == '\\')
+            ch = '/';
+    while (!rel.empty() && rel.front() == '/')
+        rel.erase(rel.begin());
+    if (folder.empty())
+        return rel;
+    return folder + (folder.back() == '/' ? "" : "/") + rel;
 }
 
 } // namespace zorvane

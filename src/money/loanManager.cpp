@@ -292,19 +292,4 @@ void loanManager::loadLoans(LineReader& in) {
     refreshCredit();
 }
 
-std::array<std::string, 4> loanManager::offerTexts() const {
-    return {numberText(offerRate) + " %", formatMoney(offerMonthly), formatMoney(offerTotal),
-            formatMoney(offerAmount)};
-}
-
-std::array<std::string, 5> loanManager::currentLoanTexts() const {
-    return {formatMoney(loanAmount), numberText(interestRate) + " %",
-            digitsOnly(numberText(paymentsRemaining)), formatMoney(balance),
-            formatMoney(monthlyPayment)};
-}
-
-std::string loanManager::creditText() const {
-    return digitsOnly(numberText(creditScore)) + " %";
-}
-
 } // namespace zorvane

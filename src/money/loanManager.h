@@ -69,11 +69,6 @@ class loanManager {
     void saveLoans(LineWriter& out) const;
     void loadLoans(LineReader& in);
 
-    // The texts of the loans screen.
-    std::array<std::string, 4> offerTexts() const;       // lblProposedData 0 to 3
-    std::array<std::string, 5> currentLoanTexts() const; // lblCurrentData 0 to 4
-    std::string creditText() const;                      // lblCreditScore
-
     Game& game() { return game_; }
 
   private:

@@ -151,11 +151,6 @@ void Calendar::refreshCalendar() {
     game_.screen().refresh(View::YearLabel);
 }
 
-std::string Calendar::weekArrows() const {
-    // A loaded game may carry any week number; never draw a negative count.
-    return std::string(static_cast<std::size_t>(std::max(0, currentweek + 1)), '>');
-}
-
 const char* Calendar::dayName(int day) {
     static const char* names[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     return day >= 0 && day < 7 ? names[day] : "";

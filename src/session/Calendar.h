@@ -36,8 +36,6 @@ class Calendar {
     void loadCalendar(LineReader& in);
     void refreshCalendar();
 
-    // The next-day button's caption: ">" once per week of the month so far.
-    std::string weekArrows() const;
     static const char* dayName(int day);
     static const char* monthName(int month);
 

@@ -28,7 +28,7 @@ void Game::startup() {
     status("setting up forms");
     status("setting default values");
     finances.setFunds(math.initfunds);
-    screen_->refresh(View::Expand);
+    expand("false");
     setSpeed(0);
     movies.initShowtimes();
     loans.loansSetDefaults();
@@ -164,6 +164,17 @@ void Game::endProcess(const std::string& why) {
     zorvane::endProcess(*dialogs_, why);
 }
 
+void Game::expand(const std::string& text) {
+    const std::string word = toLower(text);
+    if (word.empty())
+        expanded = !expanded;
+    else if (word == "true")
+        expanded = true;
+    else if (word == "false")
+        expanded = false;
+    screen_->refresh(View::Expand);
+}
+
 void Game::setSpeed(int newSpeed) {
     if (newSpeed == -2)
         newSpeed = lastSpeed;
@@ -190,15 +201,7 @@ int Game::timerInterval() const {
 }
 
 std::string Game::dataPath(const std::string& name) const {
-    std::string rel = name;
-    for (char& c : rel)
-        if (c == '\\')
-            c = '/';
-    while (!rel.empty() && rel.front() == '/')
-        rel.erase(rel.begin());
-    if (setup_.folder.empty())
-        return rel;
-    return setup_.folder + (setup_.folder.back() == '/' ? "" : "/") + rel;
+    return zorvane::dataPath(setup_.folder, name);
 }
 
 } // namespace zorvane

@@ -71,6 +71,10 @@ class Game {
     void reloadMath();
     [[noreturn]] void endProcess(const std::string& why);
 
+    // The details panel of the main screen: empty text toggles it, "true" and "false" (any
+    // case) open and close it, other text leaves it.
+    void expand(const std::string& text);
+
     // The speed of the clock: 0 pause, 1 to 3 slow to fast; -1 stops and remembers the
     // speed, -2 returns to the remembered speed.
     void setSpeed(int newSpeed);
@@ -99,9 +103,10 @@ class Game {
     std::string logBox; // the main log box's text
     Int16 speed;
     Int16 lastSpeed;
-    int loseShown = 0;    // how many times the lost-game picture was asked for
-    int goalShown = 0;    // how many times the goal-reached picture was asked for
-    bool playing = false; // "Play !" was pressed at least once
+    int loseShown = 0;     // how many times the lost-game picture was asked for
+    int goalShown = 0;     // how many times the goal-reached picture was asked for
+    bool playing = false;  // "Play !" was pressed at least once
+    bool expanded = false; // the main screen's details panel is open
 
     Calendar calendar;
     Finances finances;

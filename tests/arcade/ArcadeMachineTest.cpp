@@ -1,5 +1,6 @@
 #include "ArcadeFixture.h"
 
+#include "arcade/arcadeTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 
@@ -191,8 +192,8 @@ TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     g().rng.force({0.0, 0.0}); // machine 2 breaks: the panel jumps to it
     EXPECT_TRUE(second.play(0));
     EXPECT_EQ(am().detailsNum, 2);
-    EXPECT_TRUE(am().detailsView().broken);
-    EXPECT_EQ(am().detailsView().condition, "Broken");
+    EXPECT_TRUE(arcadeDetails(am()).broken);
+    EXPECT_EQ(arcadeDetails(am()).condition, "Broken");
     (void)first;
 }
 

@@ -1,5 +1,6 @@
 #include "StandFixture.h"
 
+#include "concessions/concessionTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 
@@ -122,7 +123,7 @@ TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsCleared) {
     item(0).sell();
     item(1).sell();
     stand().concessionsNextMonth();
-    EXPECT_EQ(stand().totals().incomeLastMonth, "$4.20");
+    EXPECT_EQ(concessionTotals(stand()).incomeLastMonth, "$4.20");
     EXPECT_EQ(item(0).lastmonthincome, 0);
     EXPECT_EQ(item(0).lastmonthsales, 1);
     EXPECT_EQ(item(0).thismonthsales, 0);
@@ -134,7 +135,7 @@ TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
     item(4).setPrice(1);                          // chance 80
     game->rng.force({0.0, 0.99, 0.0, 0.99, 0.0}); // items 0, 2 and 4 sell
     stand().doConcessionBusiness(800);
-    ConcessionTotals t = stand().totals();
+    ConcessionTotals t = concessionTotals(stand());
     EXPECT_EQ(t.totalMyCost, "$3.50"); // base costs, without the quality surcharge
     EXPECT_EQ(t.totalSold, "3");
     EXPECT_EQ(t.totalProfit, "$4.30"); // 2.10 + 2.10 + 0.10
@@ -143,7 +144,7 @@ TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
     // A new day clears the rows; the totals row keeps its figures until the next crowd.
     stand().concessionsNextDay();
     EXPECT_EQ(item(0).todayssold, 0);
-    EXPECT_EQ(stand().totals().totalSold, "3");
+    EXPECT_EQ(concessionTotals(stand()).totalSold, "3");
 }
 
 TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
@@ -151,7 +152,7 @@ TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
     stand().setItemBuyQuant(2, 30);
     EXPECT_EQ(item(2).buypermonth, 30);
     EXPECT_EQ(refreshes(game.screen, View::ConcessionTables), 5);
-    EXPECT_EQ(stand().totals().totalTotalCost, "$49");
+    EXPECT_EQ(concessionTotals(stand()).totalTotalCost, "$49");
     EXPECT_THROW(stand().setItemBuyQuant(5, 1), GameError);
     EXPECT_THROW(stand().setItemQuality(-1, 1), GameError);
 }
