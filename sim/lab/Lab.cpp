@@ -67,7 +67,7 @@ GameResult playGame(const LabOptions& o, std::uint64_t seed, Strategy& strategy)
         }
     } catch (const ProcessEnded&) {
         // The game ended itself (a question answered No): what was played counts.
-    } catch (const GameError& e) {
+    } catch (const std::exception& e) { // a GameError, or any other failure: never an abort
         r.fatal = e.what();
         r.fatalOnDay = d;
     }
