@@ -85,7 +85,6 @@ class arcadeManager {
     struct Offer {
         arcade* machine;
         arcade::PlayTerms terms;
-        bool broken;
     };
     std::vector<Offer> offers_;
 };

@@ -37,10 +37,6 @@ void ConcessionManager::initConcessions() {
 // Kept on purpose: the arguments of getPercent are swapped (key * 100 / crowd), so the
 // count falls as the crowd grows: 100 people send percentconcessions visitors, 200 half as
 // many. The count is rounded half to even; a crowd of 0 is a division by zero.
-int ConcessionManager::visitorsOf(int crowd, int percentconcessions) {
-    return toInt16(getPercent(0, crowd, percentconcessions));
-}
-
 // A show's crowd passes the stand: each visitor considers every item once, in item order,
 // so a visitor buys at most one of each.
 void ConcessionManager::doConcessionBusiness(int crowd) {

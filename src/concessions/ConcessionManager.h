@@ -40,9 +40,6 @@ class ConcessionManager {
     Concession& item(int index);
     const Concession& item(int index) const;
 
-    // The number of customers of a crowd who come to the stand.
-    static int visitorsOf(int crowd, int percentconcessions);
-
     // What the totals' labels hold since the stand last showed them.
     double shownTotalMyCost() const { return shownTotalMyCost_; }
     int shownTotalSold() const { return shownTotalSold_; }

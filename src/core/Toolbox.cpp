@@ -158,4 +158,8 @@ std::string dataPath(const std::string& folder, const std::string& name) {
     return folder + (folder.back() == '/' ? "" : "/") + rel;
 }
 
+int visitorsOf(int crowd, int key) {
+    return toInt16(getPercent(0, crowd, key));
+}
+
 } // namespace zorvane

@@ -3,6 +3,7 @@
 #include "concessions/concessionTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "core/Toolbox.h"
 
 #include <algorithm>
 #include <sstream>
@@ -27,22 +28,22 @@ int refreshes(const RecordingScreen& screen, View v) {
 
 TEST(ConcessionVisitors, FewerVisitorsAsTheCrowdGrows) {
     // Kept on purpose: percentconcessions * 100 / crowd.
-    EXPECT_EQ(ConcessionManager::visitorsOf(100, 8), 8);
-    EXPECT_EQ(ConcessionManager::visitorsOf(200, 8), 4);
-    EXPECT_EQ(ConcessionManager::visitorsOf(50, 8), 16);
-    EXPECT_EQ(ConcessionManager::visitorsOf(1, 8), 800);
+    EXPECT_EQ(visitorsOf(100, 8), 8);
+    EXPECT_EQ(visitorsOf(200, 8), 4);
+    EXPECT_EQ(visitorsOf(50, 8), 16);
+    EXPECT_EQ(visitorsOf(1, 8), 800);
 }
 
 TEST(ConcessionVisitors, RoundedHalfToEven) {
-    EXPECT_EQ(ConcessionManager::visitorsOf(320, 8), 2);  // 2.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(200, 7), 4);  // 3.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(1600, 8), 0); // 0.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(1599, 8), 1); // just above 0.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(300, 8), 3);  // 2.67
+    EXPECT_EQ(visitorsOf(320, 8), 2);  // 2.5
+    EXPECT_EQ(visitorsOf(200, 7), 4);  // 3.5
+    EXPECT_EQ(visitorsOf(1600, 8), 0); // 0.5
+    EXPECT_EQ(visitorsOf(1599, 8), 1); // just above 0.5
+    EXPECT_EQ(visitorsOf(300, 8), 3);  // 2.67
 }
 
 TEST(ConcessionVisitors, ACrowdOfNoneIsADivisionByZero) {
-    EXPECT_THROW(ConcessionManager::visitorsOf(0, 8), GameError);
+    EXPECT_THROW(visitorsOf(0, 8), GameError);
 }
 
 TEST_F(StandFixture, EachVisitorConsidersEveryItemOnce) {
