@@ -7,18 +7,10 @@
 
 #include <CLI/CLI.hpp>
 
-#include <chrono>
 #include <fstream>
 #include <iostream>
 
 namespace {
-
-std::uint64_t secondsSinceMidnight() {
-    using namespace std::chrono;
-    const auto now = system_clock::now();
-    const auto today = floor<days>(now);
-    return static_cast<std::uint64_t>(duration_cast<seconds>(now - today).count());
-}
 
 std::vector<std::string> readLines(std::istream& in) {
     std::vector<std::string> lines;

@@ -164,4 +164,11 @@ void ConcessionManager::loadConcessions(LineReader& in) {
     }
 }
 
+double ConcessionManager::monthlyOrderCost() const {
+    double monthly = 0;
+    for (const Concession& c : items_)
+        monthly += c.getMyMonthlyCost();
+    return monthly;
+}
+
 } // namespace zorvane

@@ -28,6 +28,8 @@ class ConcessionManager {
     void setItemQuality(int item, int quality);
     void setItemPrice(int item, double price);
     void setItemBuyQuant(int item, int units);
+    // The month's order of the five items together, at their base costs.
+    double monthlyOrderCost() const;
     void rebuildAllTables();
     void showTotalMonthlyCost();
     void showSalesTotals();

@@ -25,11 +25,8 @@ ConcessionStockRow concessionStockRow(const Concession& item) {
 }
 
 ConcessionTotals concessionTotals(const ConcessionManager& stand) {
-    double monthly = 0;
-    for (int i = 0; i < ConcessionManager::itemCount; ++i)
-        monthly += stand.item(i).getMyMonthlyCost();
     return {formatMoney(stand.shownTotalMyCost()), std::to_string(stand.shownTotalSold()),
-            formatMoneyShort(stand.shownTotalProfit()), formatMoney(monthly),
+            formatMoneyShort(stand.shownTotalProfit()), formatMoney(stand.monthlyOrderCost()),
             formatMoneyShort(stand.shownIncomeLastMonth())};
 }
 

@@ -169,7 +169,7 @@ void loanManager::missLoanPayment(double amount) {
         return;
     }
     game_.gameLog("You have missed too many loan payments!", 0);
-    game_.showLose();
+    game_.showLose(LoseReason::Loan);
 }
 
 void loanManager::refreshCredit() {
@@ -290,6 +290,14 @@ void loanManager::loadLoans(LineReader& in) {
             loanAmount = v();
     });
     refreshCredit();
+}
+
+void loanManager::takeLoan(const std::string& amount, const std::string& payments) {
+    constexpr int enterKey = 13;
+    typeAmount(amount);
+    typePayPlan(payments);
+    payPlanKeyPress(enterKey);
+    startLoan();
 }
 
 } // namespace zorvane

@@ -65,6 +65,10 @@ class loanManager {
     void typePayPlan(const std::string& text);
     void payPlanKeyPress(int key);
     void payPlanLostFocus();
+    // A loan taken as the player takes it: the amount typed into its box (the offer is
+    // worked out), the payments typed into theirs and Enter pressed, then "Take out this
+    // loan.".
+    void takeLoan(const std::string& amount, const std::string& payments);
 
     void saveLoans(LineWriter& out) const;
     void loadLoans(LineReader& in);

@@ -52,7 +52,7 @@ void Calendar::fundsTest() {
         return;
     if (game_.loans.getBalance() > 0) {
         game_.gameLog("It's hopeless!!!", 0);
-        game_.showLose();
+        game_.showLose(LoseReason::Funds);
     } else {
         game_.gameLog("You're not going to make it, take out a loan now!!!", 0);
         game_.setSpeed(-1);
@@ -110,6 +110,13 @@ bool Calendar::canDoBusiness() {
     if (onedayclose)
         return false;
     return game_.building.isInOrder();
+}
+
+int Calendar::daysLeftInMonth() const {
+    // A loaded game may carry any day or week number; count as from the nearest real one.
+    const int week = std::clamp(static_cast<int>(currentweek), 0, 3);
+    const int day = std::clamp(static_cast<int>(currentday), 0, 6);
+    return (3 - week) * 7 + (7 - day);
 }
 
 void Calendar::customersVisit(int count) {

@@ -129,9 +129,9 @@ void Game::newGame() {
     endProcess("new game");
 }
 
-void Game::showLose() {
+void Game::showLose(LoseReason why) {
     ++loseShown;
-    screen_->showLose();
+    screen_->showLose(why);
 }
 
 std::string Game::getMathFile() const {

@@ -65,7 +65,7 @@ class Game {
     void markUnsaved() { saved = false; }
     void quitGame();
     void newGame();
-    void showLose();
+    void showLose(LoseReason why);
     std::string getMathFile() const;
     void autoload();
     void reloadMath();
