@@ -7,6 +7,8 @@
 // change: the titles travel through the save.
 #include "FuzzSupport.h"
 
+#include "arcade/arcadeTexts.h"
+
 using namespace zorvane;
 using namespace zorvane::fuzz;
 
@@ -17,10 +19,10 @@ void fillTheRoom(Game& game) {
     while (!arcades.buyGames.empty() && arcades.getMachineCount() < game.math.arcademax)
         arcades.buyGame(1);
     arcades.refreshBuyGrid();
-    (void)arcades.buyGridRows();
+    (void)arcadeBuyGrid(arcades);
     for (int n = 1; n <= arcades.getMachineCount(); ++n) {
         arcades.showGameDetails(n);
-        (void)arcades.detailsView();
+        (void)arcadeDetails(arcades);
     }
 }
 

@@ -84,7 +84,9 @@ int Simulator::run(const std::vector<std::string>& lines, std::ostream& err) {
     } catch (const ProcessEnded& e) {
         out_ << "process ended: " << e.what() << '\n';
         return 0;
-    } catch (const GameError& e) {
+    } catch (const std::exception& e) {
+        // The game's run-time errors, and whatever else the standard library throws: the
+        // run ends as a fatal error, never as an abort.
         out_.flush();
         err << "fatal: " << e.what() << '\n';
         return 70;

@@ -10,19 +10,14 @@ namespace {
 using nlohmann::json;
 
 json mathValue(const MathKey& k, MathVars& m) {
-    void* p = k.target(m);
-    switch (k.kind) {
-    case MathKey::Kind::Int16:
-    case MathKey::Kind::Floor16:
-    case MathKey::Kind::Strict16:
-        return static_cast<int>(*static_cast<Int16*>(p));
-    case MathKey::Kind::Double:
-        return *static_cast<double*>(p);
-    case MathKey::Kind::Text:
-        return *static_cast<std::string*>(p);
-    default:
-        return nullptr;
-    }
+    const MathKey::Target target = k.target(m);
+    if (const auto* p = std::get_if<Int16*>(&target))
+        return static_cast<int>(**p);
+    if (const auto* p = std::get_if<double*>(&target))
+        return **p;
+    if (const auto* p = std::get_if<std::string*>(&target))
+        return **p;
+    return nullptr;
 }
 
 json mathState(Game& game) {

@@ -7,18 +7,10 @@
 
 #include <CLI/CLI.hpp>
 
-#include <chrono>
 #include <fstream>
 #include <iostream>
 
 namespace {
-
-std::uint64_t secondsSinceMidnight() {
-    using namespace std::chrono;
-    const auto now = system_clock::now();
-    const auto today = floor<days>(now);
-    return static_cast<std::uint64_t>(duration_cast<seconds>(now - today).count());
-}
 
 std::vector<std::string> readLines(std::istream& in) {
     std::vector<std::string> lines;
@@ -30,7 +22,9 @@ std::vector<std::string> readLines(std::istream& in) {
 
 } // namespace
 
-int main(int argc, char** argv) {
+// Whatever escapes (a lab run, the files of --csv and --chart) is a fatal error too: its
+// message and status 70, never an abort.
+int main(int argc, char** argv) try {
     using namespace zorvane;
     CLI::App app{"zorvane-sim: runs the Zorvane movie-theater game without a window, "
                  "driven by a script of commands."};
@@ -102,4 +96,7 @@ int main(int argc, char** argv) {
     const int status = simulator.run(lines, std::cerr);
     std::cout.flush();
     return status;
+} catch (const std::exception& e) {
+    std::cerr << "fatal: " << e.what() << '\n';
+    return 70;
 }

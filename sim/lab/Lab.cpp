@@ -18,17 +18,21 @@
 
 namespace zorvane::lab {
 
-LossRoad lossRoadOf(const std::string& lastLogLine) {
-    if (lastLogLine == "It's hopeless!!!")
+LossRoad lossRoadOf(LoseReason why) {
+    switch (why) {
+    case LoseReason::Funds:
         return LossRoad::Funds;
-    if (lastLogLine == "You have missed too many loan payments!")
+    case LoseReason::Rent:
+        return LossRoad::Rent;
+    case LoseReason::Loan:
         return LossRoad::Loan;
-    return LossRoad::Rent;
+    }
+    return LossRoad::None;
 }
 
-void LossWatcher::showLose() {
+void LossWatcher::showLose(LoseReason why) {
     if (lost == LossRoad::None)
-        lost = lossRoadOf(last_);
+        lost = lossRoadOf(why);
 }
 
 namespace {
@@ -201,7 +205,7 @@ GameResult playGame(const LabOptions& o, std::uint64_t seed, Strategy& strategy)
         }
     } catch (const ProcessEnded&) {
         // The game ended itself (a question answered No): what was played counts.
-    } catch (const GameError& e) {
+    } catch (const std::exception& e) { // a GameError, or any other failure: never an abort
         r.fatal = e.what();
         r.fatalOnDay = d;
     }

@@ -75,19 +75,14 @@ struct LabResult {
 
 class Strategy;
 
-// The road of a loss, from the line the game wrote last before its lost-game picture: the
-// funds test and the bank each say why, the landlord says nothing.
-LossRoad lossRoadOf(const std::string& lastLogLine);
+// The road of a loss, from the reason the game gives with its lost-game picture.
+LossRoad lossRoadOf(LoseReason why);
 
 // A lab game's screen: it shows nothing, but it notes how the game was lost.
 class LossWatcher : public NullScreen {
   public:
     LossRoad lost = LossRoad::None;
-    void logLine(const std::string& line, bool) override { last_ = line; }
-    void showLose() override;
-
-  private:
-    std::string last_;
+    void showLose(LoseReason why) override;
 };
 
 // One lab game: start-up, "Play !" with the goal of the options, then `years` game years of

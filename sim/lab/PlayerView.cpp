@@ -5,10 +5,6 @@
 
 namespace zorvane::lab::view {
 
-namespace {
-constexpr int enterKey = 13;
-}
-
 bool monthEndsToday(const Game& game) {
     return game.calendar.currentday == 6 && game.calendar.currentweek >= 3;
 }
@@ -18,9 +14,7 @@ bool weekStartsToday(const Game& game) {
 }
 
 int daysLeftInMonth(const Game& game) {
-    const int week = std::clamp(static_cast<int>(game.calendar.currentweek), 0, 3);
-    const int day = std::clamp(static_cast<int>(game.calendar.currentday), 0, 6);
-    return (3 - week) * 7 + (7 - day);
+    return game.calendar.daysLeftInMonth();
 }
 
 double dailyWages(const Game& game) {
@@ -31,11 +25,7 @@ double dailyWages(const Game& game) {
 }
 
 std::vector<int> vacantPositions(const Game& game) {
-    std::vector<int> vacant;
-    for (int p = 1; p <= 7; ++p)
-        if (!game.employees.isValidHolder(game.employees.getPosition(p).getMyEmployee()))
-            vacant.push_back(p);
-    return vacant;
+    return game.employees.vacantPositions();
 }
 
 std::vector<int> idleStaff(const Game& game) {
@@ -54,10 +44,7 @@ bool onStaff(const Game& game, const std::string& name) {
 }
 
 double snackOrderCost(const Game& game) {
-    double sum = 0;
-    for (int i = 0; i < ConcessionManager::itemCount; ++i)
-        sum += game.concessions.item(i).getMyMonthlyCost();
-    return sum;
+    return game.concessions.monthlyOrderCost();
 }
 
 bool ownsTitle(const Game& game, const std::string& title) {
@@ -85,11 +72,8 @@ void typeIntoNextInputBox(Game& game, const std::string& text) {
 }
 
 void takeLoan(Game& game, double amount, int payments) {
-    loanManager& loans = game.loans;
-    loans.typeAmount(std::to_string(static_cast<long long>(std::floor(amount))));
-    loans.typePayPlan(std::to_string(payments));
-    loans.payPlanKeyPress(enterKey);
-    loans.startLoan();
+    game.loans.takeLoan(std::to_string(static_cast<long long>(std::floor(amount))),
+                        std::to_string(payments));
 }
 
 } // namespace zorvane::lab::view

@@ -2,21 +2,11 @@
 
 namespace zorvane::sim {
 
-namespace {
-constexpr int enterKey = 13;
-}
-
 // The loans screen: the two boxes and the two buttons.
 void addLoanCommands(CommandTable& t) {
     // Typing the amount is a change, so the offer is worked out; the payments box is read
     // when Enter is pressed in it. Then "Take out this loan.".
-    t["loan"] = {2, 2, [](CommandContext& c, const Args& a) {
-                     loanManager& loans = c.game.loans;
-                     loans.typeAmount(a[0]);
-                     loans.typePayPlan(a[1]);
-                     loans.payPlanKeyPress(enterKey);
-                     loans.startLoan();
-                 }};
+    t["loan"] = {2, 2, [](CommandContext& c, const Args& a) { c.game.loans.takeLoan(a[0], a[1]); }};
     t["payoff"] = {0, 0, [](CommandContext& c, const Args&) { c.game.loans.payOffLoan(); }};
 }
 

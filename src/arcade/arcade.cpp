@@ -81,10 +81,9 @@ void arcade::init(int number, const std::string& name) {
 
 // One visitor and this machine. Every play by anyone of the same crowd lowers the chance of
 // the next one; a broken machine takes no play and draws no roll.
-bool arcade::play(int playsSoFar) {
+bool arcade::play(const PlayTerms& terms, int playsSoFar) {
     if (IamBroke)
         return false;
-    const PlayTerms terms = playTerms();
     const int chance =
         sub16(terms.baseChance, mul16(playsSoFar, game_->math.arcadeplaychanceplayedmod));
     if (game_->rng.percentRoll() > chance)

@@ -34,9 +34,6 @@ class arcade {
     double Income = 0; // takings less repair bills
     double cost = 0;   // market price of a sound machine
 
-    // One arcade visitor meets this machine; `playsSoFar` counts the plays of the whole crowd.
-    bool play(int playsSoFar);
-
     // What a play costs and the machine's chance before the crowd's plays are counted: fixed
     // while one crowd plays, so the room works them out once per crowd.
     struct PlayTerms {
@@ -44,6 +41,9 @@ class arcade {
         int baseChance = 0;
     };
     PlayTerms playTerms() const;
+    // One arcade visitor meets this machine on the crowd's terms; `playsSoFar` counts the
+    // plays of the whole crowd. Returns whether the visitor played.
+    bool play(const PlayTerms& terms, int playsSoFar);
     // A visitor has played: books the takings and rolls for a breakdown.
     void takePlay(double price);
     void setOriginalPurchasePrice(double dollars) { OriginalPrice = dollars; }

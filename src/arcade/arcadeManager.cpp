@@ -252,38 +252,22 @@ void arcadeManager::arcadesNextYear() {
 void arcadeManager::doArcadeBusiness(int count) {
     if (myGames.empty())
         return;
-    // Kept on purpose: the crowd stands as the range and the key as the value, so visitors
-    // fall as the crowd grows (percentarcade * 100 / crowd) and a small audience spends more
-    // at the arcade than a full house. A crowd of 0 is a division by zero.
-    const int visitors = toInt16(getPercent(0, count, game_.math.percentarcade));
+    const int visitors = visitorsOf(count, game_.math.percentarcade);
     if (visitors < 1)
         return;
     // No machine comes or goes while the crowd plays, and a machine's price and popularity
     // stay put, so each machine's terms are worked out once for the whole crowd; this loop
-    // is the busiest of the day. A broken machine draws no roll; one that breaks down stops
-    // taking plays unless auto-repair mends it at once.
+    // is the busiest of the day. A broken machine has no terms worked out (and draws no
+    // roll); one that breaks down stops taking plays unless auto-repair mends it at once.
     offers_.clear();
-    for (const auto& machine : myGames) {
-        const bool broken = machine->getIamBroke();
+    for (const auto& machine : myGames)
         offers_.push_back(
-            {machine.get(), broken ? arcade::PlayTerms{} : machine->playTerms(), broken});
-    }
-    const int playedMod = game_.math.arcadeplaychanceplayedmod;
-    Random& rng = game_.rng;
-    Int16 plays{0};
-    long long lowered = 0; // what every chance has lost to the crowd's plays so far
+            {machine.get(), machine->getIamBroke() ? arcade::PlayTerms{} : machine->playTerms()});
+    int plays = 0;
     for (int visitor = 1; visitor <= visitors; ++visitor)
-        for (Offer& offer : offers_) {
-            if (offer.broken)
-                continue;
-            const int chance = sub16(offer.terms.baseChance, checkedInt16(lowered));
-            if (rng.percentRoll() > chance)
-                continue;
-            offer.machine->takePlay(offer.terms.price);
-            offer.broken = offer.machine->getIamBroke();
-            ++plays;
-            lowered = static_cast<long long>(plays) * playedMod;
-        }
+        for (const Offer& offer : offers_)
+            if (offer.machine->play(offer.terms, plays))
+                plays = add16(plays, 1);
 }
 
 // The average popularity of the room for the rating, summed in 16 bits; 0 with no machines.
@@ -355,38 +339,6 @@ void arcadeManager::loadArcades(LineReader& in) {
         else
             closeDetailsPanel();
     }
-}
-
-std::vector<std::array<std::string, 3>> arcadeManager::buyGridRows() const {
-    std::vector<std::array<std::string, 3>> rows;
-    if (buyGames.empty())
-        return rows;
-    rows.push_back({"Game Title", "Popularity", "Price"});
-    for (const auto& title : buyGames)
-        rows.push_back({title->getName(), digitsOnly(std::to_string(title->getPop())),
-                        formatMoney(title->getCost())});
-    return rows;
-}
-
-arcadeDetails arcadeManager::detailsView() const {
-    const arcade& m = myGameAt(detailsNum);
-    arcadeDetails d;
-    d.num = m.getNum();
-    d.name = m.getName();
-    d.pop = digitsOnly(std::to_string(m.Pop));
-    d.age = digitsOnly(std::to_string(m.Age)) + " months";
-    d.broken = m.IamBroke;
-    d.condition = m.IamBroke ? "Broken" : "Working";
-    d.paid = formatMoney(m.OriginalPrice);
-    d.repairs = formatMoney(m.RepairBillsTotal);
-    d.plays = numberText(m.TotalPlays);
-    d.income = formatMoney(m.Income);
-    d.profit = formatMoney(m.totalProfit());
-    d.value = formatMoney(m.getPrice());
-    d.priceIndex = m.PricePerPlay;
-    d.style = m.CabinetImageFileNumber;
-    d.picture = room.exists(m.getNum()) ? room.cabinet(m.getNum()).picture : std::string();
-    return d;
 }
 
 } // namespace zorvane

@@ -14,25 +14,6 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// What the details panel of the arcade screen shows for one machine.
-struct arcadeDetails {
-    int num = 0;
-    std::string name;
-    std::string pop;       // digits
-    std::string age;       // "12 months"
-    std::string condition; // "Working" or "Broken"
-    bool broken = false;   // the condition's red back and the Repair button
-    std::string paid;
-    std::string repairs;
-    std::string plays;
-    std::string income;
-    std::string profit;
-    std::string value;   // "Current Market Value"
-    int priceIndex = 0;  // position in the price drop-down
-    int style = 0;       // the cabinet-style slider
-    std::string picture; // the cabinet's picture, copied to the sample
-};
-
 // The theater's game room and the game market: the title list games.lst, the changing buy
 // list, buying and selling, each showtime crowd at the machines, and the rating's two
 // questions. Titles are shared objects: the buy list and the room hold the very objects of
@@ -89,10 +70,6 @@ class arcadeManager {
     void showDetailsPanel(int number);
     void closeDetailsPanel();
 
-    // What the screens show: the buy table's rows (header first, none when the list is
-    // empty) and the details panel's texts for the machine it shows.
-    std::vector<std::array<std::string, 3>> buyGridRows() const;
-    arcadeDetails detailsView() const;
     // The full path of a cabinet picture of the arcades folder.
     std::string cabinetPath(int style, bool facingRight) const;
 
@@ -108,7 +85,6 @@ class arcadeManager {
     struct Offer {
         arcade* machine;
         arcade::PlayTerms terms;
-        bool broken;
     };
     std::vector<Offer> offers_;
 };

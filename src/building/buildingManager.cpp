@@ -92,7 +92,7 @@ void buildingManager::payRent() {
                       0);
         return;
     }
-    game_.showLose();
+    game_.showLose(LoseReason::Rent);
 }
 
 // Back in business: the sign goes and the clock returns to its remembered speed. Runs after

@@ -177,24 +177,6 @@ void Concession::loadSelf(LineReader& in) {
     updateMyListing();
 }
 
-ConcessionListing Concession::listing() const {
-    ConcessionListing row;
-    row.qualityList = qualityList;
-    row.qualityIndex = quality;
-    row.price = formatMoney(price);
-    row.yourCost = formatMoney(getUnitCost());
-    row.soldToday = std::to_string(todayssold);
-    row.profit = formatMoney(todaysprofit);
-    row.picture = picture.empty() ? "" : game_.dataPath(picture);
-    row.tip = name;
-    return row;
-}
-
-ConcessionStockRow Concession::stockRow() const {
-    return {std::to_string(stock), std::to_string(buypermonth), std::to_string(lastmonthsales),
-            formatMoney(cost), formatMoney(getMyMonthlyCost())};
-}
-
 // Even the lowest quality carries one step of the quality surcharge.
 double Concession::getUnitCost() const {
     return cost + add16(quality, 1) * game_.math.concessqualcost;

@@ -10,27 +10,6 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// What an item's row on the "Prices" tab shows (updateMyListing).
-struct ConcessionListing {
-    std::vector<std::string> qualityList; // the quality list's texts, in index order
-    int qualityIndex = 0;                 // the list's position: the item's quality
-    std::string price;                    // txtPrice
-    std::string yourCost;                 // lblMyCost: the unit cost with its quality surcharge
-    std::string soldToday;                // lblSold
-    std::string profit;                   // lblProfit: today's profit
-    std::string picture;                  // imgConcession: the picture's file
-    std::string tip;                      // its tool tip: the item's name
-};
-
-// What an item's row on the "Stock" tab shows (buildTables).
-struct ConcessionStockRow {
-    std::string inStock;        // lblInStock
-    std::string buyPerMonth;    // txtBuyPerMonth
-    std::string lastMonthSales; // lblLastMonthSales
-    std::string costPerItem;    // lblCostPerItem: the base cost, without the quality surcharge
-    std::string totalCost;      // lblTotalCost: the month's order
-};
-
 // One of the five goods of the theater's stand: the player's price, quality, stock and
 // monthly order for it. It decides whether one customer buys, and books the sale.
 class Concession {
@@ -79,13 +58,10 @@ class Concession {
     void saveSelf(LineWriter& out) const;
     void loadSelf(LineReader& in);
 
-    // The texts of the item's two rows, as the screen shows them.
-    ConcessionListing listing() const;
-    ConcessionStockRow stockRow() const;
-
-  private:
+    // What one unit costs the theater: the base cost with its quality surcharge.
     double getUnitCost() const;
 
+  private:
     Game& game_;
 };
 

@@ -37,10 +37,6 @@ void ConcessionManager::initConcessions() {
 // Kept on purpose: the arguments of getPercent are swapped (key * 100 / crowd), so the
 // count falls as the crowd grows: 100 people send percentconcessions visitors, 200 half as
 // many. The count is rounded half to even; a crowd of 0 is a division by zero.
-int ConcessionManager::visitorsOf(int crowd, int percentconcessions) {
-    return toInt16(getPercent(0, crowd, percentconcessions));
-}
-
 // A show's crowd passes the stand: each visitor considers every item once, in item order,
 // so a visitor buys at most one of each.
 void ConcessionManager::doConcessionBusiness(int crowd) {
@@ -142,15 +138,6 @@ void ConcessionManager::showLastMonthIncome() {
     game_.screen().refresh(View::ConcessionTotals);
 }
 
-ConcessionTotals ConcessionManager::totals() const {
-    double monthly = 0;
-    for (const Concession& c : items_)
-        monthly += c.getMyMonthlyCost();
-    return {formatMoney(shownTotalMyCost_), std::to_string(shownTotalSold_),
-            formatMoneyShort(shownTotalProfit_), formatMoney(monthly),
-            formatMoneyShort(shownIncomeLastMonth_)};
-}
-
 void ConcessionManager::saveConcessions(LineWriter& out) const {
     out << "<concessions>";
     for (const Concession& c : items_)
@@ -175,6 +162,13 @@ void ConcessionManager::loadConcessions(LineReader& in) {
                             in.where() + "concession item " + std::to_string(n) + " out of range");
         item(n).loadSelf(in);
     }
+}
+
+double ConcessionManager::monthlyOrderCost() const {
+    double monthly = 0;
+    for (const Concession& c : items_)
+        monthly += c.getMyMonthlyCost();
+    return monthly;
 }
 
 } // namespace zorvane

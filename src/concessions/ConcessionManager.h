@@ -10,15 +10,6 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// The stand's figures below the rows of the two tabs.
-struct ConcessionTotals {
-    std::string totalMyCost;     // lblTotalMyCost: sum of the base costs
-    std::string totalSold;       // lblTotalSold
-    std::string totalProfit;     // lblTotalProfit
-    std::string totalTotalCost;  // lblTotalTotalCost: the month's whole order
-    std::string incomeLastMonth; // lblTotalIncomeLastMonth
-};
-
 // The theater's concession stand: owns the five items, sends each show's crowd past them,
 // steps them through the days, months and years, and gives the rating its quality score.
 class ConcessionManager {
@@ -37,6 +28,8 @@ class ConcessionManager {
     void setItemQuality(int item, int quality);
     void setItemPrice(int item, double price);
     void setItemBuyQuant(int item, int units);
+    // The month's order of the five items together, at their base costs.
+    double monthlyOrderCost() const;
     void rebuildAllTables();
     void showTotalMonthlyCost();
     void showSalesTotals();
@@ -49,13 +42,11 @@ class ConcessionManager {
     Concession& item(int index);
     const Concession& item(int index) const;
 
-    // The number of customers of a crowd who come to the stand.
-    static int visitorsOf(int crowd, int percentconcessions);
-
-    // The figures of the stand's totals, as the screen shows them. The sales totals and the
-    // month's income are those of the moment they were last shown, as their labels keep
-    // them; the month's order is the running one.
-    ConcessionTotals totals() const;
+    // What the totals' labels hold since the stand last showed them.
+    double shownTotalMyCost() const { return shownTotalMyCost_; }
+    int shownTotalSold() const { return shownTotalSold_; }
+    double shownTotalProfit() const { return shownTotalProfit_; }
+    double shownIncomeLastMonth() const { return shownIncomeLastMonth_; }
 
     Game& game() { return game_; }
 

@@ -7,6 +7,8 @@
 #include "core/Version.h"
 
 #include <fstream>
+#include <stdexcept>
+#include <type_traits>
 #include <unordered_map>
 
 namespace zorvane {
@@ -15,178 +17,213 @@ namespace {
 
 using Kind = MathKey::Kind;
 
+// The kind of a key follows from the type of the field that holds it: a 16-bit whole number
+// is read rounded, a double as it stands, a text without its trailing blanks.
+template <typename T> constexpr Kind kindOf() {
+    if constexpr (std::is_same_v<T, Int16>)
+        return Kind::Int16;
+    else if constexpr (std::is_same_v<T, double>)
+        return Kind::Double;
+    else {
+        static_assert(std::is_same_v<T, std::string>, "a math field is Int16, double or text");
+        return Kind::Text;
+    }
+}
+
+// A 16-bit field may be read by another rule than rounding (Floor16, Strict16).
+constexpr Kind int16Rule(Kind rule) {
+    return rule == Kind::Floor16 || rule == Kind::Strict16 ? rule : Kind::Int16;
+}
+
 class TableBuilder {
   public:
     std::vector<MathKey> keys;
 
-    template <typename F> void add(std::string key, Kind kind, F target) {
-        keys.push_back({key, kind, key, -1, -1, target});
+    template <typename T> void add(const std::string& key, T MathVars::*field) {
+        keys.push_back({key, kindOf<T>(), key, -1, -1,
+                        [field](MathVars& m) -> MathKey::Target { return &(m.*field); }});
+    }
+    void add(const std::string& key, Int16 MathVars::*field, Kind rule) {
+        add(key, field);
+        keys.back().kind = int16Rule(rule);
+    }
+    // A key that stores nothing (Ignored, Version).
+    void noField(const std::string& key, Kind kind) {
+        keys.push_back({key, kind, key, -1, -1, [](MathVars&) { return MathKey::Target{}; }});
     }
     // key = prefix + index + suffix, for index first..last, stored in array[index].
-    template <typename F>
-    void range(const std::string& prefix, int first, int last, const std::string& suffix, Kind kind,
-               const std::string& array, F element) {
-        for (int i = first; i <= last; ++i)
-            keys.push_back({prefix + std::to_string(i) + suffix, kind, array, i, -1,
-                            [element, i](MathVars& m) -> void* { return element(m, i); }});
+    template <typename T, std::size_t N>
+    void range(const std::string& prefix, int first, int last, const std::string& suffix,
+               const std::string& array, std::array<T, N> MathVars::*field) {
+        if (first < 0 || static_cast<std::size_t>(last) >= N)
+            throw std::logic_error("math key " + prefix + " beyond its array");
+        for (int i = first; i <= last; ++i) {
+            const auto at = static_cast<std::size_t>(i);
+            keys.push_back(
+                {prefix + std::to_string(i) + suffix, kindOf<T>(), array, i, -1,
+                 [field, at](MathVars& m) -> MathKey::Target { return &(m.*field)[at]; }});
+        }
+    }
+    template <std::size_t N>
+    void range(const std::string& prefix, int first, int last, const std::string& suffix,
+               const std::string& array, std::array<Int16, N> MathVars::*field, Kind rule) {
+        const std::size_t from = keys.size();
+        range(prefix, first, last, suffix, array, field);
+        for (std::size_t k = from; k < keys.size(); ++k)
+            keys[k].kind = int16Rule(rule);
     }
 };
 
-#define FIELD(name) [](MathVars& m) -> void* { return &m.name; }
-#define ELEMENT(name) [](MathVars& m, int i) -> void* { return &m.name[i]; }
-
 std::vector<MathKey> buildTable() {
     TableBuilder t;
-    const Kind I = Kind::Int16, D = Kind::Double, T = Kind::Text;
     // General
-    t.add("mathver", Kind::Version, [](MathVars&) -> void* { return nullptr; });
-    t.range("gamespeed", 1, 3, "", I, "gamespeed", ELEMENT(gamespeed));
-    t.add("resalemin", D, FIELD(resalemin));
-    t.add("fundsmin", D, FIELD(fundsmin));
+    t.noField("mathver", Kind::Version);
+    t.range("gamespeed", 1, 3, "", "gamespeed", &MathVars::gamespeed);
+    t.add("resalemin", &MathVars::resalemin);
+    t.add("fundsmin", &MathVars::fundsmin);
     // Movies
-    t.add("movieminprice", D, FIELD(movieminprice));
-    t.add("moviemaxprice", D, FIELD(moviemaxprice));
-    t.add("moviepopdropdays", I, FIELD(moviepopdropdays));
-    t.add("moviepopdrop", I, FIELD(moviepopdrop));
-    t.add("movieclassicmin", I, FIELD(movieclassicmin));
-    t.add("movieclassicmax", I, FIELD(movieclassicmax));
-    t.add("movieminreleases", D, FIELD(movieminreleases));
-    t.add("moviemaxreleases", D, FIELD(moviemaxreleases));
-    t.add("moviemaxbuymovies", D, FIELD(moviemaxbuymovies));
-    t.add("movieminpop", I, FIELD(movieminpop));
-    t.add("moviemaxpop", I, FIELD(moviemaxpop));
+    t.add("movieminprice", &MathVars::movieminprice);
+    t.add("moviemaxprice", &MathVars::moviemaxprice);
+    t.add("moviepopdropdays", &MathVars::moviepopdropdays);
+    t.add("moviepopdrop", &MathVars::moviepopdrop);
+    t.add("movieclassicmin", &MathVars::movieclassicmin);
+    t.add("movieclassicmax", &MathVars::movieclassicmax);
+    t.add("movieminreleases", &MathVars::movieminreleases);
+    t.add("moviemaxreleases", &MathVars::moviemaxreleases);
+    t.add("moviemaxbuymovies", &MathVars::moviemaxbuymovies);
+    t.add("movieminpop", &MathVars::movieminpop);
+    t.add("moviemaxpop", &MathVars::moviemaxpop);
     // Showtimes
-    t.add("showtimes", I, FIELD(showtimes));
-    t.range("showtimename", 1, 8, "", T, "showtimename", ELEMENT(showtimename));
-    t.add("showtimeadincome", D, FIELD(showtimeadincome));
-    t.add("showtimeadsmaxtotal", I, FIELD(showtimeadsmaxtotal));
-    t.add("showtimeadsmax", I, FIELD(showtimeadsmax));
-    t.add("showtimeadpop", I, FIELD(showtimeadpop));
+    t.add("showtimes", &MathVars::showtimes);
+    t.range("showtimename", 1, 8, "", "showtimename", &MathVars::showtimename);
+    t.add("showtimeadincome", &MathVars::showtimeadincome);
+    t.add("showtimeadsmaxtotal", &MathVars::showtimeadsmaxtotal);
+    t.add("showtimeadsmax", &MathVars::showtimeadsmax);
+    t.add("showtimeadpop", &MathVars::showtimeadpop);
     // Arcade
-    t.add("arcademax", I, FIELD(arcademax));
-    t.add("arcadeimages", I, FIELD(arcadeimages));
-    t.add("arcadenewgamespermonth", I, FIELD(arcadenewgamespermonth));
-    t.add("arcademaxgamesonbuylist", I, FIELD(arcademaxgamesonbuylist));
-    t.add("arcadeclassicmin", I, FIELD(arcadeclassicmin));
-    t.add("arcadeclassicmax", I, FIELD(arcadeclassicmax));
-    t.add("arcadepopmin", I, FIELD(arcadepopmin));
-    t.add("arcadepopmax", I, FIELD(arcadepopmax));
-    t.add("arcadepricemod", I, FIELD(arcadepricemod));
-    t.add("arcadepricebroke", I, FIELD(arcadepricebroke));
-    t.add("arcadebreakchance", D, FIELD(arcadebreakchance));
-    t.add("arcaderepaircost", I, FIELD(arcaderepaircost));
-    t.range("arcadeplayprice", 1, 4, "", D, "arcadeplayprice", ELEMENT(arcadeplayprice));
-    t.add("arcadeplaypricedefault", I, FIELD(arcadeplaypricedefault));
-    t.add("arcadeplaychancepricemod", I, FIELD(arcadeplaychancepricemod));
-    t.add("arcadeplaychanceplayedmod", I, FIELD(arcadeplaychanceplayedmod));
-    t.add("arcadepopdropmin", I, FIELD(arcadepopdropmin));
-    t.add("arcadepopdropmax", I, FIELD(arcadepopdropmax));
+    t.add("arcademax", &MathVars::arcademax);
+    t.add("arcadeimages", &MathVars::arcadeimages);
+    t.add("arcadenewgamespermonth", &MathVars::arcadenewgamespermonth);
+    t.add("arcademaxgamesonbuylist", &MathVars::arcademaxgamesonbuylist);
+    t.add("arcadeclassicmin", &MathVars::arcadeclassicmin);
+    t.add("arcadeclassicmax", &MathVars::arcadeclassicmax);
+    t.add("arcadepopmin", &MathVars::arcadepopmin);
+    t.add("arcadepopmax", &MathVars::arcadepopmax);
+    t.add("arcadepricemod", &MathVars::arcadepricemod);
+    t.add("arcadepricebroke", &MathVars::arcadepricebroke);
+    t.add("arcadebreakchance", &MathVars::arcadebreakchance);
+    t.add("arcaderepaircost", &MathVars::arcaderepaircost);
+    t.range("arcadeplayprice", 1, 4, "", "arcadeplayprice", &MathVars::arcadeplayprice);
+    t.add("arcadeplaypricedefault", &MathVars::arcadeplaypricedefault);
+    t.add("arcadeplaychancepricemod", &MathVars::arcadeplaychancepricemod);
+    t.add("arcadeplaychanceplayedmod", &MathVars::arcadeplaychanceplayedmod);
+    t.add("arcadepopdropmin", &MathVars::arcadepopdropmin);
+    t.add("arcadepopdropmax", &MathVars::arcadepopdropmax);
     // Concessions
-    t.range("concessname", 0, 4, "", T, "concessname", ELEMENT(concessname));
+    t.range("concessname", 0, 4, "", "concessname", &MathVars::concessname);
     for (int n = 0; n <= 4; ++n)
         for (int q = 0; q <= 2; ++q)
-            t.keys.push_back({"concess" + std::to_string(n) + "qual" + std::to_string(q), T,
-                              "concessqual", n, q,
-                              [n, q](MathVars& m) -> void* { return &m.concessqual[n][q]; }});
-    t.range("concess", 0, 4, "price", D, "concessprice", ELEMENT(concessprice));
-    t.range("concess", 0, 4, "cost", D, "concesscost", ELEMENT(concesscost));
-    t.range("concess", 0, 4, "qualinit", I, "concessqualinit", ELEMENT(concessqualinit));
-    t.range("concess", 0, 4, "buy", Kind::Strict16, "concessbuy", ELEMENT(concessbuy));
-    t.add("concessqualcost", D, FIELD(concessqualcost));
-    t.add("concessconsidercost", D, FIELD(concessconsidercost));
-    t.range("concessconsiderqual", 0, 2, "", D, "concessconsiderqual",
-            ELEMENT(concessconsiderqual));
+            t.keys.push_back({"concess" + std::to_string(n) + "qual" + std::to_string(q),
+                              Kind::Text, "concessqual", n, q,
+                              [n, q](MathVars& m) -> MathKey::Target {
+                                  return &m.concessqual.at(static_cast<std::size_t>(n))
+                                              .at(static_cast<std::size_t>(q));
+                              }});
+    t.range("concess", 0, 4, "price", "concessprice", &MathVars::concessprice);
+    t.range("concess", 0, 4, "cost", "concesscost", &MathVars::concesscost);
+    t.range("concess", 0, 4, "qualinit", "concessqualinit", &MathVars::concessqualinit);
+    t.range("concess", 0, 4, "buy", "concessbuy", &MathVars::concessbuy, Kind::Strict16);
+    t.add("concessqualcost", &MathVars::concessqualcost);
+    t.add("concessconsidercost", &MathVars::concessconsidercost);
+    t.range("concessconsiderqual", 0, 2, "", "concessconsiderqual", &MathVars::concessconsiderqual);
     // Money and prices
-    t.add("initfunds", D, FIELD(initfunds));
-    t.add("ticketsmatinee", D, FIELD(ticketsmatinee));
-    t.add("ticketsstandard", D, FIELD(ticketsstandard));
-    t.add("ticketsseniors", D, FIELD(ticketsseniors));
-    t.add("arcadeprice", Kind::Ignored, [](MathVars&) -> void* { return nullptr; });
-    t.add("minwage", D, FIELD(minwage));
-    t.add("inflation", D, FIELD(inflation));
+    t.add("initfunds", &MathVars::initfunds);
+    t.add("ticketsmatinee", &MathVars::ticketsmatinee);
+    t.add("ticketsstandard", &MathVars::ticketsstandard);
+    t.add("ticketsseniors", &MathVars::ticketsseniors);
+    t.noField("arcadeprice", Kind::Ignored);
+    t.add("minwage", &MathVars::minwage);
+    t.add("inflation", &MathVars::inflation);
     // Loans
-    t.add("loanmlv", D, FIELD(loanmlv));
-    t.add("loanpaymentsmin", I, FIELD(loanpaymentsmin));
-    t.add("loanpaymentsmax", I, FIELD(loanpaymentsmax));
-    t.add("loangrace", I, FIELD(loangrace));
-    t.add("loanir", D, FIELD(loanir));
-    t.add("loancs", D, FIELD(loancs));
-    t.add("loancsmax", D, FIELD(loancsmax));
-    t.add("loancsdec", D, FIELD(loancsdec));
-    t.add("loancsinc", D, FIELD(loancsinc));
+    t.add("loanmlv", &MathVars::loanmlv);
+    t.add("loanpaymentsmin", &MathVars::loanpaymentsmin);
+    t.add("loanpaymentsmax", &MathVars::loanpaymentsmax);
+    t.add("loangrace", &MathVars::loangrace);
+    t.add("loanir", &MathVars::loanir);
+    t.add("loancs", &MathVars::loancs);
+    t.add("loancsmax", &MathVars::loancsmax);
+    t.add("loancsdec", &MathVars::loancsdec);
+    t.add("loancsinc", &MathVars::loancsinc);
     // Staff
-    t.range("emppos", 0, 7, "name", T, "empposname", ELEMENT(empposname));
-    t.range("empposition", 1, 7, "", D, "empposition", ELEMENT(empposition));
-    t.add("empraisemonths", D, FIELD(empraisemonths));
-    t.add("empraisemin", D, FIELD(empraisemin));
-    t.add("emptraining", D, FIELD(emptraining));
-    t.add("empexpsave", D, FIELD(empexpsave));
-    t.add("emprelchance", D, FIELD(emprelchance));
-    t.add("empambchance", D, FIELD(empambchance));
-    t.add("empexpchance", I, FIELD(empexpchance));
-    t.add("empexpoverlimit", I, FIELD(empexpoverlimit));
-    t.add("empangrynowork", I, FIELD(empangrynowork));
-    t.add("empangryoverqualified", I, FIELD(empangryoverqualified));
-    t.add("empangrynopay", I, FIELD(empangrynopay));
-    t.add("empangryquit", I, FIELD(empangryquit));
-    t.add("empangrycalmdown", I, FIELD(empangrycalmdown));
-    t.add("empprobation", I, FIELD(empprobation));
-    t.add("empoverqualifiedquitchance", I, FIELD(empoverqualifiedquitchance));
-    t.add("emphours", Kind::Floor16, FIELD(emphours));
-    t.add("empvinnycost", D, FIELD(empvinnycost));
-    t.range("empstat", 1, 10, "name", T, "empstatname", ELEMENT(empstatname));
+    t.range("emppos", 0, 7, "name", "empposname", &MathVars::empposname);
+    t.range("empposition", 1, 7, "", "empposition", &MathVars::empposition);
+    t.add("empraisemonths", &MathVars::empraisemonths);
+    t.add("empraisemin", &MathVars::empraisemin);
+    t.add("emptraining", &MathVars::emptraining);
+    t.add("empexpsave", &MathVars::empexpsave);
+    t.add("emprelchance", &MathVars::emprelchance);
+    t.add("empambchance", &MathVars::empambchance);
+    t.add("empexpchance", &MathVars::empexpchance);
+    t.add("empexpoverlimit", &MathVars::empexpoverlimit);
+    t.add("empangrynowork", &MathVars::empangrynowork);
+    t.add("empangryoverqualified", &MathVars::empangryoverqualified);
+    t.add("empangrynopay", &MathVars::empangrynopay);
+    t.add("empangryquit", &MathVars::empangryquit);
+    t.add("empangrycalmdown", &MathVars::empangrycalmdown);
+    t.add("empprobation", &MathVars::empprobation);
+    t.add("empoverqualifiedquitchance", &MathVars::empoverqualifiedquitchance);
+    t.add("emphours", &MathVars::emphours, Kind::Floor16);
+    t.add("empvinnycost", &MathVars::empvinnycost);
+    t.range("empstat", 1, 10, "name", "empstatname", &MathVars::empstatname);
     // Customers and demand
-    t.add("percentseniors", I, FIELD(percentseniors));
-    t.add("percentarcade", I, FIELD(percentarcade));
-    t.add("percentconcessions", I, FIELD(percentconcessions));
-    t.add("demandbase", D, FIELD(demandbase));
-    t.add("demandprice", D, FIELD(demandprice));
-    t.range("demandshowtime", 1, 8, "", D, "demandshowtime", ELEMENT(demandshowtime));
-    t.add("demandpromotion", D, FIELD(demandpromotion));
-    t.add("demandrating", D, FIELD(demandrating));
-    t.add("demandpop", D, FIELD(demandpop));
-    t.add("demanddupe", I, FIELD(demanddupe));
+    t.add("percentseniors", &MathVars::percentseniors);
+    t.add("percentarcade", &MathVars::percentarcade);
+    t.add("percentconcessions", &MathVars::percentconcessions);
+    t.add("demandbase", &MathVars::demandbase);
+    t.add("demandprice", &MathVars::demandprice);
+    t.range("demandshowtime", 1, 8, "", "demandshowtime", &MathVars::demandshowtime);
+    t.add("demandpromotion", &MathVars::demandpromotion);
+    t.add("demandrating", &MathVars::demandrating);
+    t.add("demandpop", &MathVars::demandpop);
+    t.add("demanddupe", &MathVars::demanddupe);
     // Promotions
-    t.range("promo", 0, 4, "", I, "promo", ELEMENT(promo));
-    t.range("promocost", 0, 4, "", D, "promocost", ELEMENT(promocost));
-    t.add("promomax", D, FIELD(promomax));
+    t.range("promo", 0, 4, "", "promo", &MathVars::promo);
+    t.range("promocost", 0, 4, "", "promocost", &MathVars::promocost);
+    t.add("promomax", &MathVars::promomax);
     // Rating
-    t.add("ratingdemand", I, FIELD(ratingdemand));
-    t.add("ratingads", I, FIELD(ratingads));
-    t.add("ratinganger", I, FIELD(ratinganger));
-    t.add("ratingpay", I, FIELD(ratingpay));
-    t.add("ratingambition", I, FIELD(ratingambition));
-    t.add("ratingpromo", I, FIELD(ratingpromo));
-    t.add("ratinggamepops", I, FIELD(ratinggamepops));
-    t.add("ratinggamenums", D, FIELD(ratinggamenums));
-    t.add("ratingconcessions", I, FIELD(ratingconcessions));
-    t.add("ratingrnd", I, FIELD(ratingrnd));
-    t.add("ratingcurrent", Kind::Ignored, [](MathVars&) -> void* { return nullptr; });
+    t.add("ratingdemand", &MathVars::ratingdemand);
+    t.add("ratingads", &MathVars::ratingads);
+    t.add("ratinganger", &MathVars::ratinganger);
+    t.add("ratingpay", &MathVars::ratingpay);
+    t.add("ratingambition", &MathVars::ratingambition);
+    t.add("ratingpromo", &MathVars::ratingpromo);
+    t.add("ratinggamepops", &MathVars::ratinggamepops);
+    t.add("ratinggamenums", &MathVars::ratinggamenums);
+    t.add("ratingconcessions", &MathVars::ratingconcessions);
+    t.add("ratingrnd", &MathVars::ratingrnd);
+    t.noField("ratingcurrent", Kind::Ignored);
     // Building
-    t.add("buildingseating", I, FIELD(buildingseating));
-    t.add("buildingseatingmax", I, FIELD(buildingseatingmax));
-    t.add("buildingremodelcost", D, FIELD(buildingremodelcost));
-    t.add("buildingremodelseats", I, FIELD(buildingremodelseats));
-    t.add("buildingremodelcondition", D, FIELD(buildingremodelcondition));
-    t.add("buildingconditioninit", I, FIELD(buildingconditioninit));
-    t.add("buildingconditiondrop", D, FIELD(buildingconditiondrop));
-    t.add("buildingbreakdownchance", D, FIELD(buildingbreakdownchance));
-    t.add("buildingrepaircost", I, FIELD(buildingrepaircost));
-    t.add("buildingrenovationcost", I, FIELD(buildingrenovationcost));
-    t.add("buildingrent", D, FIELD(buildingrent));
-    t.add("buildingrentgrace", I, FIELD(buildingrentgrace));
-    t.add("buildingpurchasebase", D, FIELD(buildingpurchasebase));
-    t.add("buildingpurchaseinc", D, FIELD(buildingpurchaseinc));
+    t.add("buildingseating", &MathVars::buildingseating);
+    t.add("buildingseatingmax", &MathVars::buildingseatingmax);
+    t.add("buildingremodelcost", &MathVars::buildingremodelcost);
+    t.add("buildingremodelseats", &MathVars::buildingremodelseats);
+    t.add("buildingremodelcondition", &MathVars::buildingremodelcondition);
+    t.add("buildingconditioninit", &MathVars::buildingconditioninit);
+    t.add("buildingconditiondrop", &MathVars::buildingconditiondrop);
+    t.add("buildingbreakdownchance", &MathVars::buildingbreakdownchance);
+    t.add("buildingrepaircost", &MathVars::buildingrepaircost);
+    t.add("buildingrenovationcost", &MathVars::buildingrenovationcost);
+    t.add("buildingrent", &MathVars::buildingrent);
+    t.add("buildingrentgrace", &MathVars::buildingrentgrace);
+    t.add("buildingpurchasebase", &MathVars::buildingpurchasebase);
+    t.add("buildingpurchaseinc", &MathVars::buildingpurchaseinc);
     // Look and sound
-    t.range("formcolor", 0, 7, "", T, "formcolor", ELEMENT(formcolor));
-    t.range("imgconcession", 0, 4, "", T, "imgconcession", ELEMENT(imgconcession));
-    t.range("sndmode", 0, 7, "", T, "sndmode", ELEMENT(sndmode));
-    t.add("sndmidi", T, FIELD(sndmidi));
+    t.range("formcolor", 0, 7, "", "formcolor", &MathVars::formcolor);
+    t.range("imgconcession", 0, 4, "", "imgconcession", &MathVars::imgconcession);
+    t.range("sndmode", 0, 7, "", "sndmode", &MathVars::sndmode);
+    t.add("sndmidi", &MathVars::sndmidi);
     return t.keys;
 }
-
-#undef FIELD
-#undef ELEMENT
 
 const std::unordered_map<std::string, const MathKey*>& keyIndex() {
     static const std::unordered_map<std::string, const MathKey*> index = [] {
@@ -212,22 +249,22 @@ void MathFile::apply(MathVars& math, DialogPort& dialogs, const std::string& key
     if (it == index.end())
         return; // unknown keys, and the empty key before the first entry, match nothing
     const MathKey& k = *it->second;
-    void* target = k.target(math);
+    const MathKey::Target target = k.target(math);
     switch (k.kind) {
     case Kind::Int16:
-        *static_cast<zorvane::Int16*>(target) = toInt16(leadingNumber(value));
+        *std::get<zorvane::Int16*>(target) = toInt16(leadingNumber(value));
         break;
     case Kind::Floor16:
-        *static_cast<zorvane::Int16*>(target) = floorInt16(leadingNumber(value));
+        *std::get<zorvane::Int16*>(target) = floorInt16(leadingNumber(value));
         break;
     case Kind::Strict16:
-        *static_cast<zorvane::Int16*>(target) = floorInt16(strictNumber(value, k.key));
+        *std::get<zorvane::Int16*>(target) = floorInt16(strictNumber(value, k.key));
         break;
     case Kind::Double:
-        *static_cast<double*>(target) = leadingNumber(value);
+        *std::get<double*>(target) = leadingNumber(value);
         break;
     case Kind::Text:
-        *static_cast<std::string*>(target) = trimRight(value);
+        *std::get<std::string*>(target) = trimRight(value);
         break;
     case Kind::Ignored:
         break;

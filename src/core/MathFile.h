@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace zorvane {
@@ -25,7 +26,9 @@ struct MathKey {
     std::string array; // the field's name without index, e.g. "gamespeed"
     int index = -1;    // first index, -1 for a plain field
     int index2 = -1;   // second index (concessNqualM)
-    std::function<void*(MathVars&)> target;
+    // Where the value is stored; nothing for Ignored and Version.
+    using Target = std::variant<std::monostate, Int16*, double*, std::string*>;
+    std::function<Target(MathVars&)> target;
 };
 
 // Every key, in the order of the file.

@@ -12,7 +12,7 @@ class NullScreen : public ScreenPort {
     void titleStatus(const std::string&) override {}
     void logLine(const std::string&, bool) override {}
     void logCleared() override {}
-    void showLose() override {}
+    void showLose(LoseReason) override {}
     bool graphVisible() const override { return false; }
     void switchMode(int) override {}
     bool buildingVisible() const override { return false; }

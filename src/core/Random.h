@@ -9,8 +9,12 @@ namespace zorvane {
 // The engine is xoshiro256+ (its top 53 bits make the double), seeded through splitmix64: a
 // busy day draws thousands of numbers, and this engine is several times faster than a
 // Mersenne Twister with equally good doubles.
+// The seed of a game started without one: the seconds since local midnight, as the clock
+// on the wall reads them (0 to 86399).
+std::uint64_t secondsSinceMidnight();
+
 class Random {
-public:
+  public:
     explicit Random(std::uint64_t seed = 0) { reseed(seed); }
 
     void reseed(std::uint64_t seed) {
@@ -50,7 +54,7 @@ public:
 
     std::uint64_t draws() const { return draws_; }
 
-private:
+  private:
     static std::uint64_t rotl(std::uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
     std::uint64_t nextWord() {
         const std::uint64_t result = state_[0] + state_[3];

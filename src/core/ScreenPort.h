@@ -5,6 +5,10 @@
 
 namespace zorvane {
 
+// Why the game is lost: the funds ran out with a loan running, the rent went unpaid too long,
+// or too many loan payments were missed in a row.
+enum class LoseReason { Funds, Rent, Loan };
+
 // What the logic tells the screens. Every operation is abstract, so a screen that forgets one
 // does not compile; NullScreen (core/NullScreen.h) is the port that shows nothing.
 class ScreenPort {
@@ -22,7 +26,7 @@ class ScreenPort {
     virtual void logCleared() = 0;
 
     // The lost-game picture, shown modally; it changes no game state.
-    virtual void showLose() = 0;
+    virtual void showLose(LoseReason why) = 0;
 
     // Whether the graph screen is visible (the day redraws it only then).
     virtual bool graphVisible() const = 0;

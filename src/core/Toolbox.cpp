@@ -24,7 +24,9 @@ std::string digitsOnly(std::string_view text) {
     return out;
 }
 
-double digitsValue(std::string_view text) { return leadingNumber(digitsOnly(text)); }
+double digitsValue(std::string_view text) {
+    return leadingNumber(digitsOnly(text));
+}
 
 std::string trimRight(std::string_view text) {
     std::size_t end = text.size();
@@ -40,7 +42,6 @@ std::string toLower(std::string_view text) {
             c = static_cast<char>(c - 'A' + 'a');
     return out;
 }
-
 
 namespace {
 
@@ -154,6 +155,22 @@ double getPercent(double min, double max, double value) {
                         "division by zero: a percent of a range whose ends are equal (" +
                             numberText(min) + ")");
     return value * 100 / (max - min);
+}
+
+std::string dataPath(const std::string& folder, const std::string& name) {
+    std::string rel = name;
+    for (char& ch : rel)
+        if (ch == '\\')
+            ch = '/';
+    while (!rel.empty() && rel.front() == '/')
+        rel.erase(rel.begin());
+    if (folder.empty())
+        return rel;
+    return folder + (folder.back() == '/' ? "" : "/") + rel;
+}
+
+int visitorsOf(int crowd, int key) {
+    return toInt16(getPercent(0, crowd, key));
 }
 
 } // namespace zorvane

@@ -36,8 +36,8 @@ class goalManager {
     goal& selected() { return goalAt(selectedGoal); }
     int getSelected() const { return selectedGoal; }
     int getLastGoal() const { return lastGoal; }
-    // The title screen's lstGoals: the goals' names, list index = goal index.
-    const std::vector<std::string>& goalNames() const { return lstGoals; }
+    // The names added to the title screen's list, in order.
+    const std::vector<std::string>& listedNames() const { return lstGoals; }
 
     Game& game() { return game_; }
 

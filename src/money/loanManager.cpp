@@ -169,7 +169,7 @@ void loanManager::missLoanPayment(double amount) {
         return;
     }
     game_.gameLog("You have missed too many loan payments!", 0);
-    game_.showLose();
+    game_.showLose(LoseReason::Loan);
 }
 
 void loanManager::refreshCredit() {
@@ -292,19 +292,12 @@ void loanManager::loadLoans(LineReader& in) {
     refreshCredit();
 }
 
-std::array<std::string, 4> loanManager::offerTexts() const {
-    return {numberText(offerRate) + " %", formatMoney(offerMonthly), formatMoney(offerTotal),
-            formatMoney(offerAmount)};
-}
-
-std::array<std::string, 5> loanManager::currentLoanTexts() const {
-    return {formatMoney(loanAmount), numberText(interestRate) + " %",
-            digitsOnly(numberText(paymentsRemaining)), formatMoney(balance),
-            formatMoney(monthlyPayment)};
-}
-
-std::string loanManager::creditText() const {
-    return digitsOnly(numberText(creditScore)) + " %";
+void loanManager::takeLoan(const std::string& amount, const std::string& payments) {
+    constexpr int enterKey = 13;
+    typeAmount(amount);
+    typePayPlan(payments);
+    payPlanKeyPress(enterKey);
+    startLoan();
 }
 
 } // namespace zorvane

@@ -65,14 +65,13 @@ class loanManager {
     void typePayPlan(const std::string& text);
     void payPlanKeyPress(int key);
     void payPlanLostFocus();
+    // A loan taken as the player takes it: the amount typed into its box (the offer is
+    // worked out), the payments typed into theirs and Enter pressed, then "Take out this
+    // loan.".
+    void takeLoan(const std::string& amount, const std::string& payments);
 
     void saveLoans(LineWriter& out) const;
     void loadLoans(LineReader& in);
-
-    // The texts of the loans screen.
-    std::array<std::string, 4> offerTexts() const;       // lblProposedData 0 to 3
-    std::array<std::string, 5> currentLoanTexts() const; // lblCurrentData 0 to 4
-    std::string creditText() const;                      // lblCreditScore
 
     Game& game() { return game_; }
 

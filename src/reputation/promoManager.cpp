@@ -104,19 +104,9 @@ void promoManager::showPromotions() {
     game_.screen().refresh(View::Promotions);
 }
 
-PromotionsView promoManager::view() const {
-    PromotionsView v;
-    v.pointLabels = pointLabels_;
-    for (std::size_t i = 0; i < mediaCount; ++i) {
-        v.costLabels[i] = formatMoney(promoCost[i]);
-        const int pts = mul16(promoRunning[i], game_.math.promo[i]);
-        if (pts > 0)
-            v.rows.push_back({promoName[i], std::to_string(pts), std::to_string(promoRunning[i]),
-                              formatMoneyShort(promoRunning[i] * promoCost[i])});
-    }
-    v.currentPromoLevel = std::to_string(pointsNow());
-    v.totalDailyPayments = formatMoney(getPromoCost());
-    return v;
+int promoManager::mediumPoints(int index) const {
+    const std::size_t i = checkedIndex(index);
+    return mul16(promoRunning[i], game_.math.promo[i]);
 }
 
 void promoManager::savePromotions(LineWriter& out) const {

@@ -11,23 +11,6 @@ class Game;
 class LineReader;
 class LineWriter;
 
-// One line of the "Current Promotions:" table.
-struct PromoRow {
-    std::string promo; // "Promo": the medium's name
-    std::string pts;   // "PTS": its points
-    std::string count; // "#": ads running
-    std::string price; // "Price": their daily cost
-};
-
-// What the promotions screen shows (showPromotions).
-struct PromotionsView {
-    std::array<std::string, 5> pointLabels; // lblPromoLevelLabel, written at set-up
-    std::array<std::string, 5> costLabels;  // lblPromoPriceLabel
-    std::vector<PromoRow> rows;             // grdPromos, below its header
-    std::string currentPromoLevel;          // lblCurrentPromoLevel: total points
-    std::string totalDailyPayments;         // lblTotalMonthlyPayments: the daily cost
-};
-
 // The theater's advertising in five media. Each ad bought adds its medium's points, which
 // raise demand and the rating, and costs its price every day until it is dropped.
 class promoManager {
@@ -58,8 +41,10 @@ class promoManager {
     int pointsNow() const;
     // The last total that getPromoPoints computed: what addPromo measures against.
     int totalPoints() const { return totalPoints_; }
-    // The screen's texts.
-    PromotionsView view() const;
+    // The points that the ads running in one medium give.
+    int mediumPoints(int index) const;
+    // The captions of the point labels, written at set-up.
+    const std::array<std::string, 5>& pointLabels() const { return pointLabels_; }
 
     Game& game() { return game_; }
 

@@ -105,14 +105,6 @@ void ratingManager::refreshRatingDisplay() {
     game_.screen().refresh(View::Rating);
 }
 
-std::string ratingManager::ratingCaption() const {
-    return displayed_ ? std::to_string(displayedRating_) + " %" : "";
-}
-
-int ratingManager::ratingBarWidth(int backWidth) const {
-    return floorInt32(displayedRating_ * static_cast<double>(backWidth) / 100);
-}
-
 void ratingManager::saveRatings(LineWriter& out) const {
     out << "<ratings>";
     out << "currentAverage=" + numberTextSigned(currentAverage);

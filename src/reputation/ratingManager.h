@@ -52,10 +52,10 @@ class ratingManager {
     // The rating of the day: the terms summed and clamped to 1 to 100.
     int ratingOfTheDay();
 
-    // The main screen's rating display: "57 %" and the bar's width inside a back of the
-    // given width, as last refreshed.
-    std::string ratingCaption() const;
-    int ratingBarWidth(int backWidth) const;
+    // What the main screen's rating display shows since its last refresh, if it was ever
+    // refreshed.
+    int displayedRating() const { return displayedRating_; }
+    bool ratingDisplayed() const { return displayed_; }
     const std::array<HistoryBar, 12>& bars() const { return bars_; }
     // Top of a month's bar for a value: Int((100 - value) * 7.2 + 2100).
     static int barTop(int value);

@@ -1,7 +1,7 @@
 #include "frmMain.h"
 
 #include "session/Game.h"
-#include "session/MainTexts.h"
+#include "session/mainTexts.h"
 #include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"

@@ -52,7 +52,7 @@ void Calendar::fundsTest() {
         return;
     if (game_.loans.getBalance() > 0) {
         game_.gameLog("It's hopeless!!!", 0);
-        game_.showLose();
+        game_.showLose(LoseReason::Funds);
     } else {
         game_.gameLog("You're not going to make it, take out a loan now!!!", 0);
         game_.setSpeed(-1);
@@ -112,6 +112,13 @@ bool Calendar::canDoBusiness() {
     return game_.building.isInOrder();
 }
 
+int Calendar::daysLeftInMonth() const {
+    // A loaded game may carry any day or week number; count as from the nearest real one.
+    const int week = std::clamp(static_cast<int>(currentweek), 0, 3);
+    const int day = std::clamp(static_cast<int>(currentday), 0, 6);
+    return (3 - week) * 7 + (7 - day);
+}
+
 void Calendar::customersVisit(int count) {
     game_.arcades.doArcadeBusiness(count);
     game_.concessions.doConcessionBusiness(count);
@@ -149,11 +156,6 @@ void Calendar::refreshCalendar() {
     game_.screen().refresh(View::DayBars);
     game_.screen().refresh(View::MonthLabels);
     game_.screen().refresh(View::YearLabel);
-}
-
-std::string Calendar::weekArrows() const {
-    // A loaded game may carry any week number; never draw a negative count.
-    return std::string(static_cast<std::size_t>(std::max(0, currentweek + 1)), '>');
 }
 
 const char* Calendar::dayName(int day) {

@@ -29,6 +29,8 @@ class Calendar {
     bool canDoBusiness();
     int getCurrentMonth() const { return currentmonth; }
     int getCurrentYear() const { return currentyear; }
+    // Days left in the month, the day about to be played included (1 on its last day).
+    int daysLeftInMonth() const;
     // Hands a show's audience to the arcade room, then to the concession stand.
     void customersVisit(int count);
 
@@ -36,8 +38,6 @@ class Calendar {
     void loadCalendar(LineReader& in);
     void refreshCalendar();
 
-    // The next-day button's caption: ">" once per week of the month so far.
-    std::string weekArrows() const;
     static const char* dayName(int day);
     static const char* monthName(int month);
 

@@ -141,9 +141,9 @@ void Game::newGame() {
     endProcess("new game");
 }
 
-void Game::showLose() {
+void Game::showLose(LoseReason why) {
     ++loseShown;
-    screen_->showLose();
+    screen_->showLose(why);
 }
 
 std::string Game::getMathFile() const {
@@ -202,15 +202,7 @@ int Game::timerInterval() const {
 }
 
 std::string Game::dataPath(const std::string& name) const {
-    std::string rel = name;
-    for (char& c : rel)
-        if (c == '\\')
-            c = '/';
-    while (!rel.empty() && rel.front() == '/')
-        rel.erase(rel.begin());
-    if (setup_.folder.empty())
-        return rel;
-    return setup_.folder + (setup_.folder.back() == '/' ? "" : "/") + rel;
+    return zorvane::dataPath(setup_.folder, name);
 }
 
 } // namespace zorvane

@@ -71,11 +71,12 @@ class Game {
     void markUnsaved() { saved = false; }
     void quitGame();
     void newGame();
-    void showLose();
+    void showLose(LoseReason why);
     std::string getMathFile() const;
     void autoload();
     void reloadMath();
     [[noreturn]] void endProcess(const std::string& why);
+
 
     // The speed of the clock: 0 pause, 1 to 3 slow to fast; -1 stops and remembers the
     // speed, -2 returns to the remembered speed.

@@ -560,4 +560,12 @@ void employeeManager::selectPosition(int entry) {
     selectedPosition_ = entry;
 }
 
+std::vector<int> employeeManager::vacantPositions() const {
+    std::vector<int> vacant;
+    for (int p = 1; p <= 7; ++p)
+        if (!isValidHolder(getPosition(p).getMyEmployee()))
+            vacant.push_back(p);
+    return vacant;
+}
+
 } // namespace zorvane

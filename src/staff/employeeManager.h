@@ -83,6 +83,8 @@ class employeeManager {
     int databaseCount() const { return count(allEmployees_); }
     // A holder number names somebody: at least 1 and not above the staff count.
     bool isValidHolder(int number) const { return number >= 1 && number <= employeeCount(); }
+    // Posts 1 to 7 with nobody valid in them.
+    std::vector<int> vacantPositions() const;
     // The name of post p as the math file gives it now.
     const std::string& positionName(int p) const;
     // The name the chart shows for post p, as it stood at start-up.

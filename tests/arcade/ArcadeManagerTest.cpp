@@ -1,5 +1,6 @@
 #include "ArcadeFixture.h"
 
+#include "arcade/arcadeTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "core/Toolbox.h"
@@ -98,7 +99,7 @@ TEST_F(Room, AMachineThatBreaksMidCrowdPlaysOnOnlyWhenRepairedAtOnce) {
             am().removeFromMyGames(1);
         arcade& one = addMachine(title(1, "One", 10));
         arcade& two = addMachine(title(2, "Two", 10));
-        g().math.percentarcade = 2; // a crowd of 100: two visitors
+        g().math.percentarcade = 2;                   // a crowd of 100: two visitors
         g().rng.force({roll(10), 0.0, roll(9), 0.9}); // visitor 1: one breaks, two plays
         if (autoRepair)
             g().rng.force({roll(8), 0.9, roll(7), 0.9}); // visitor 2 plays both
@@ -200,7 +201,7 @@ TEST_F(Room, InitArcadesReadsTheSettingAndReleases) {
     EXPECT_EQ(am().buyGames.size(), 3u);
     EXPECT_EQ(am().priceList,
               (std::vector<std::string>{"Free Play", "$0.25", "$0.50", "$0.75", "$1"}));
-    const auto rows = am().buyGridRows();
+    const auto rows = arcadeBuyGrid(am());
     ASSERT_EQ(rows.size(), 4u);
     EXPECT_EQ(rows[0][0], "Game Title");
     EXPECT_EQ(rows[1][0], am().buyGameAt(1).getName());
@@ -318,7 +319,7 @@ TEST_F(Room, SoldTitleDrawnAgainComesBackAsItWas) {
     EXPECT_EQ(again.TotalPlays, 17);
     EXPECT_EQ(again.PricePerPlay, 3);
     EXPECT_TRUE(again.IamBroke);
-    EXPECT_EQ(am().buyGridRows()[1][2], formatMoney(again.getCost())); // the whole cost
+    EXPECT_EQ(arcadeBuyGrid(am())[1][2], formatMoney(again.getCost())); // the whole cost
     const double funds = g().finances.funds;
     am().buyGame(1);
     EXPECT_EQ(g().finances.funds, funds - again.getCost() * 25 / 100); // charged broken
@@ -438,7 +439,7 @@ TEST_F(Room, DetailsViewTexts) {
     a.Income = 380.5;
     a.PricePerPlay = 2;
     am().showGameDetails(1);
-    const arcadeDetails d = am().detailsView();
+    const ArcadeDetails d = arcadeDetails(am());
     EXPECT_EQ(d.name, "Zap");
     EXPECT_EQ(d.pop, "50");
     EXPECT_EQ(d.age, "12 months");

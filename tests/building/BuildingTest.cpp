@@ -1,5 +1,5 @@
 #include "building/BuildingFixture.h"
-#include "building/BuildingTexts.h"
+#include "building/buildingTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "session/Game.h"
@@ -124,7 +124,7 @@ TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
     EXPECT_EQ(game->speed, 0);
     EXPECT_EQ(game->lastSpeed, 2);
     EXPECT_EQ(b().repairCost, 20 * 60);
-    EXPECT_TRUE(buildingTexts(b(), game->calendar).outOfOrder);
+    EXPECT_TRUE(buildingTexts(b(), game->calendar.currentyear).outOfOrder);
     // A broken house is rolled for too, and breaks down again.
     game->rng.force(0.0);
     b().rollBuildingBreakdown();
@@ -187,7 +187,7 @@ TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndOnlyWithTheMoney) {
     EXPECT_EQ(b().condition, 70); // a repair does not mend the wear
     EXPECT_EQ(b().repairCost, 0);
     EXPECT_EQ(game->speed, 3); // back to the remembered speed
-    EXPECT_FALSE(buildingTexts(b(), game->calendar).outOfOrder);
+    EXPECT_FALSE(buildingTexts(b(), game->calendar.currentyear).outOfOrder);
 }
 
 TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
@@ -302,7 +302,7 @@ TEST_F(BuildingFixture, ScreenTexts) {
     b().condition = 85;
     b().totalRentPaid = 15000;
     b().breakDown();
-    const BuildingTexts t = buildingTexts(b(), game->calendar);
+    const BuildingTexts t = buildingTexts(b(), game->calendar.currentyear);
     EXPECT_EQ(t.values[0], "3 Years");
     EXPECT_EQ(t.values[1], "85 %");
     EXPECT_EQ(t.values[2], "$900");
@@ -315,5 +315,5 @@ TEST_F(BuildingFixture, ScreenTexts) {
     EXPECT_TRUE(t.outOfOrder);
     EXPECT_EQ(std::string(buildingDescriptions[6]), "Building purchase price:");
     b().condition = -3; // digits only: the sign is lost
-    EXPECT_EQ(buildingTexts(b(), game->calendar).values[1], "3 %");
+    EXPECT_EQ(buildingTexts(b(), game->calendar.currentyear).values[1], "3 %");
 }

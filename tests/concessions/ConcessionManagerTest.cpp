@@ -1,7 +1,9 @@
 #include "StandFixture.h"
 
+#include "concessions/concessionTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "core/Toolbox.h"
 
 #include <algorithm>
 #include <sstream>
@@ -26,22 +28,22 @@ int refreshes(const RecordingScreen& screen, View v) {
 
 TEST(ConcessionVisitors, FewerVisitorsAsTheCrowdGrows) {
     // Kept on purpose: percentconcessions * 100 / crowd.
-    EXPECT_EQ(ConcessionManager::visitorsOf(100, 8), 8);
-    EXPECT_EQ(ConcessionManager::visitorsOf(200, 8), 4);
-    EXPECT_EQ(ConcessionManager::visitorsOf(50, 8), 16);
-    EXPECT_EQ(ConcessionManager::visitorsOf(1, 8), 800);
+    EXPECT_EQ(visitorsOf(100, 8), 8);
+    EXPECT_EQ(visitorsOf(200, 8), 4);
+    EXPECT_EQ(visitorsOf(50, 8), 16);
+    EXPECT_EQ(visitorsOf(1, 8), 800);
 }
 
 TEST(ConcessionVisitors, RoundedHalfToEven) {
-    EXPECT_EQ(ConcessionManager::visitorsOf(320, 8), 2);  // 2.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(200, 7), 4);  // 3.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(1600, 8), 0); // 0.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(1599, 8), 1); // just above 0.5
-    EXPECT_EQ(ConcessionManager::visitorsOf(300, 8), 3);  // 2.67
+    EXPECT_EQ(visitorsOf(320, 8), 2);  // 2.5
+    EXPECT_EQ(visitorsOf(200, 7), 4);  // 3.5
+    EXPECT_EQ(visitorsOf(1600, 8), 0); // 0.5
+    EXPECT_EQ(visitorsOf(1599, 8), 1); // just above 0.5
+    EXPECT_EQ(visitorsOf(300, 8), 3);  // 2.67
 }
 
 TEST(ConcessionVisitors, ACrowdOfNoneIsADivisionByZero) {
-    EXPECT_THROW(ConcessionManager::visitorsOf(0, 8), GameError);
+    EXPECT_THROW(visitorsOf(0, 8), GameError);
 }
 
 TEST_F(StandFixture, EachVisitorConsidersEveryItemOnce) {
@@ -122,7 +124,7 @@ TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsCleared) {
     item(0).sell();
     item(1).sell();
     stand().concessionsNextMonth();
-    EXPECT_EQ(stand().totals().incomeLastMonth, "$4.20");
+    EXPECT_EQ(concessionTotals(stand()).incomeLastMonth, "$4.20");
     EXPECT_EQ(item(0).lastmonthincome, 0);
     EXPECT_EQ(item(0).lastmonthsales, 1);
     EXPECT_EQ(item(0).thismonthsales, 0);
@@ -134,7 +136,7 @@ TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
     item(4).setPrice(1);                          // chance 80
     game->rng.force({0.0, 0.99, 0.0, 0.99, 0.0}); // items 0, 2 and 4 sell
     stand().doConcessionBusiness(800);
-    ConcessionTotals t = stand().totals();
+    ConcessionTotals t = concessionTotals(stand());
     EXPECT_EQ(t.totalMyCost, "$3.50"); // base costs, without the quality surcharge
     EXPECT_EQ(t.totalSold, "3");
     EXPECT_EQ(t.totalProfit, "$4.30"); // 2.10 + 2.10 + 0.10
@@ -143,7 +145,7 @@ TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
     // A new day clears the rows; the totals row keeps its figures until the next crowd.
     stand().concessionsNextDay();
     EXPECT_EQ(item(0).todayssold, 0);
-    EXPECT_EQ(stand().totals().totalSold, "3");
+    EXPECT_EQ(concessionTotals(stand()).totalSold, "3");
 }
 
 TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
@@ -151,7 +153,7 @@ TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
     stand().setItemBuyQuant(2, 30);
     EXPECT_EQ(item(2).buypermonth, 30);
     EXPECT_EQ(refreshes(game.screen, View::ConcessionTables), 5);
-    EXPECT_EQ(stand().totals().totalTotalCost, "$49");
+    EXPECT_EQ(concessionTotals(stand()).totalTotalCost, "$49");
     EXPECT_THROW(stand().setItemBuyQuant(5, 1), GameError);
     EXPECT_THROW(stand().setItemQuality(-1, 1), GameError);
 }

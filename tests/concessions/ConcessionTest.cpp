@@ -1,5 +1,6 @@
 #include "StandFixture.h"
 
+#include "concessions/concessionTexts.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 
@@ -130,9 +131,9 @@ TEST_F(ItemFixture, QualityIsClampedAndPriceMustBeAboveZero) {
     EXPECT_EQ(item(0).price, 3);
     // The row is shown again, so the box gets the old price back.
     EXPECT_EQ(game.screen.refreshed.front(), View::ConcessionListing);
-    EXPECT_EQ(item(0).listing().price, "$3");
+    EXPECT_EQ(concessionListing(item(0), game->folder()).price, "$3");
     item(0).setPrice(2.5);
-    EXPECT_EQ(item(0).listing().price, "$2.50");
+    EXPECT_EQ(concessionListing(item(0), game->folder()).price, "$2.50");
 }
 
 TEST_F(ItemFixture, InflationRaisesTheCostNotThePrice) {
@@ -190,7 +191,7 @@ TEST_F(ItemFixture, StockOverflowIsFatal) {
 
 TEST_F(ItemFixture, TheRowsShowTheUnitCostAndTheBaseCost) {
     item(0).sell();
-    const ConcessionListing row = item(0).listing();
+    const ConcessionListing row = concessionListing(item(0), game->folder());
     EXPECT_EQ(row.qualityList, (std::vector<std::string>{"low 0", "mid 0", "high 0"}));
     EXPECT_EQ(row.qualityIndex, 1);
     EXPECT_EQ(row.price, "$3");
@@ -200,7 +201,7 @@ TEST_F(ItemFixture, TheRowsShowTheUnitCostAndTheBaseCost) {
     EXPECT_EQ(row.tip, "Popcorn");
     EXPECT_NE(row.picture.find("images/concessions/item0.png"), std::string::npos);
 
-    const ConcessionStockRow stock = item(0).stockRow();
+    const ConcessionStockRow stock = concessionStockRow(item(0));
     EXPECT_EQ(stock.inStock, "9");
     EXPECT_EQ(stock.buyPerMonth, "10");
     EXPECT_EQ(stock.lastMonthSales, "0");

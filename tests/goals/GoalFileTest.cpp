@@ -1,6 +1,7 @@
 // goals.cfg: how the file is read, and what the shipped file offers.
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "goals/goalTexts.h"
 #include "persistence/SessionPorts.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
@@ -32,7 +33,7 @@ TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
     goalManager& g = load("# a comment\r\n<goal>\r\nname=First\r\n</goal>\r\nname=Outside\r\n"
                           "<GOAL>\r\nname=Second\r\n</goal>\r\n<Goal>\r\n</goal>\r\n");
     EXPECT_EQ(g.getLastGoal(), 3);
-    EXPECT_EQ(g.goalNames(), (std::vector<std::string>{"Free Play", "First", "Second", ""}));
+    EXPECT_EQ(goalList(g), (std::vector<std::string>{"Free Play", "First", "Second", ""}));
     const goal& free = g.getGoal(0);
     EXPECT_EQ(free.getName(), "Free Play");
     EXPECT_EQ(free.getType(), "");
@@ -93,7 +94,7 @@ TEST_F(GoalFile, AnyLineBeginningWithSlashClosesAGoal) {
 TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
     goalManager& g = load("<goal> \n name=x\n<goal>x\n <goal>\n");
     EXPECT_EQ(g.getLastGoal(), 0);
-    EXPECT_EQ(g.goalNames(), std::vector<std::string>{"Free Play"});
+    EXPECT_EQ(goalList(g), std::vector<std::string>{"Free Play"});
 }
 
 TEST_F(GoalFile, AMissingFileIsFatal) {

@@ -32,21 +32,11 @@ std::vector<double> months(int n, double funds) {
 
 } // namespace
 
-TEST(LossRoad, TheLastLineBeforeTheLostPictureTellsTheRoad) {
-    EXPECT_EQ(lossRoadOf("It's hopeless!!!"), LossRoad::Funds);
-    EXPECT_EQ(lossRoadOf("You have missed too many loan payments!"), LossRoad::Loan);
-    // The landlord says nothing: whatever came last, it is the rent.
-    EXPECT_EQ(lossRoadOf(" -- Another day has arrived --"), LossRoad::Rent);
-    EXPECT_EQ(lossRoadOf(""), LossRoad::Rent);
-}
-
 TEST(LossRoad, TheWatcherKeepsTheFirstLoss) {
     LossWatcher watcher;
     EXPECT_EQ(watcher.lost, LossRoad::None);
-    watcher.logLine("You have missed too many loan payments!", false);
-    watcher.showLose();
-    watcher.logLine("It's hopeless!!!", false);
-    watcher.showLose(); // the picture again the next day: the game was already lost
+    watcher.showLose(zorvane::LoseReason::Loan);
+    watcher.showLose(zorvane::LoseReason::Funds); // the picture again the next day: already lost
     EXPECT_EQ(watcher.lost, LossRoad::Loan);
 }
 

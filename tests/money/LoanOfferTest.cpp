@@ -1,5 +1,6 @@
 #include "core/GameError.h"
 #include "money/LoanFixture.h"
+#include "money/moneyTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@ TEST_F(LoanFixture, DefaultsFillTheOffer) {
     EXPECT_EQ(loans().offerPayments, 6);
     EXPECT_EQ(loans().offerAmount, 0);
     EXPECT_EQ(loans().offerMonthly, 0);
-    EXPECT_EQ(loans().creditText(), "50 %");
+    EXPECT_EQ(creditText(loans()), "50 %");
 }
 
 TEST_F(LoanFixture, FlatInterestOnTheWholeAmount) {
@@ -25,7 +26,7 @@ TEST_F(LoanFixture, FlatInterestOnTheWholeAmount) {
     EXPECT_EQ(loans().offerPayments, 10);
     EXPECT_EQ(loans().offerTotal, 12000); // each payment bears 2% of the whole 10000
     EXPECT_EQ(loans().offerMonthly, 1200);
-    EXPECT_EQ(loans().offerTexts(),
+    EXPECT_EQ(loanOfferTexts(loans()),
               (std::array<std::string, 4>{"2 %", "$1,200", "$12,000", "$10,000"}));
     offer("12abc3", "6.5"); // letters are skipped; 6.5 rounds to the even 6
     EXPECT_EQ(loans().offerAmount, 123);
@@ -113,7 +114,7 @@ TEST_F(LoanFixture, AGoalsLoanIsCutByTheOfferAsIfTyped) {
     EXPECT_DOUBLE_EQ(loans().offerRate, 1.6);
     EXPECT_EQ(loans().offerAmount, 50000);
     EXPECT_DOUBLE_EQ(loans().offerTotal, 50000 + 12 * 800);
-    EXPECT_EQ(loans().creditText(), "60 %");
+    EXPECT_EQ(creditText(loans()), "60 %");
 
     loans().setupLoan(90000, 0, 0); // at score 60 the maximum is 60000
     EXPECT_EQ(loans().amountText, "$60,000");

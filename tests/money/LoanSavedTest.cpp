@@ -1,5 +1,6 @@
 #include "core/LineReader.h"
 #include "money/LoanFixture.h"
+#include "money/moneyTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -89,8 +90,8 @@ TEST_F(LoanSavedFixture, ReadingRoundsTheRatesAndThePlan) {
     EXPECT_EQ(loans().paymentsRemaining, 2.5); // kept as read
     EXPECT_EQ(loans().monthlyPayment, 0);      // no leading number
     EXPECT_EQ(loans().loanAmount, 3000.125);
-    EXPECT_EQ(loans().creditText(), "61.12 %");
-    EXPECT_EQ(loans().currentLoanTexts()[2], "2.5");
+    EXPECT_EQ(creditText(loans()), "61.12 %");
+    EXPECT_EQ(currentLoanTexts(loans())[2], "2.5");
 }
 
 TEST_F(LoanSavedFixture, ALoadLeavesTheMissesInARowAsTheyWere) {

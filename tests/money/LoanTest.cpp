@@ -1,4 +1,5 @@
 #include "money/LoanFixture.h"
+#include "money/moneyTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,7 @@ TEST_F(LoanFixture, ALoanTakenPaysOutAsIncomeOfNoDepartment) {
     EXPECT_EQ(loans().paymentsRemaining, 10);
     EXPECT_EQ(loans().monthlyPayment, 1200);
     EXPECT_EQ(loans().loanAmount, 10000);
-    EXPECT_EQ(loans().currentLoanTexts(),
+    EXPECT_EQ(currentLoanTexts(loans()),
               (std::array<std::string, 5>{"$10,000", "2 %", "10", "$10,000", "$1,200"}));
 }
 
@@ -194,5 +195,5 @@ TEST_F(LoanFixture, TheScoreStaysBetweenZeroAndTheMaximum) {
     EXPECT_EQ(loans().getCreditScore(), 0);
     loans().raiseCreditScore(1234.5); // 0.061725 to two decimals
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 0.06);
-    EXPECT_EQ(loans().creditText(), "0.06 %");
+    EXPECT_EQ(creditText(loans()), "0.06 %");
 }

@@ -1,5 +1,6 @@
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "reputation/reputationTexts.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
@@ -52,7 +53,7 @@ TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
     EXPECT_EQ(promos().promoName,
               (std::array<std::string, 5>{"Nickel", "Paper", "Radio", "Billboard", "TV"}));
     EXPECT_EQ(promos().promoCost[4], 150);
-    const PromotionsView v = promos().view();
+    const PromotionsView v = promotionsView(promos());
     EXPECT_EQ(v.pointLabels[0], "+1 Point");
     EXPECT_EQ(v.pointLabels[3], "+10 Points");
     EXPECT_EQ(v.costLabels[2], "$75");
@@ -96,7 +97,7 @@ TEST_F(PromoFixture, AMediumWithoutPointsRunsWithoutLimitAndOffTheTable) {
     add(3, 1);
     add(0, 3);
     EXPECT_EQ(promos().promoRunning[0], 3);
-    const PromotionsView v = promos().view();
+    const PromotionsView v = promotionsView(promos());
     ASSERT_EQ(v.rows.size(), 2u);
     EXPECT_EQ(v.rows[0].promo, "Billboard");
     EXPECT_EQ(v.rows[1].promo, "TV");
@@ -162,7 +163,7 @@ TEST_F(PromoFixture, YearlyInflation) {
     EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
     EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
     EXPECT_EQ(promos().promoRunning[3], 2);
-    EXPECT_EQ(promos().view().costLabels[3], "$113.30");
+    EXPECT_EQ(promotionsView(promos()).costLabels[3], "$113.30");
 }
 
 TEST_F(PromoFixture, PointSumOverflowIsFatal) {

@@ -1,6 +1,7 @@
 #include "Simulator.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
+#include "reputation/reputationTexts.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
@@ -71,14 +72,14 @@ TEST_F(RatingFixture, TheDailyAverageIsFloored) {
     EXPECT_EQ(rating().currentAverage, 75);
     rating().ratingNextDay();
     EXPECT_EQ(rating().currentAverage, 87); // 87.5 floored
-    EXPECT_EQ(rating().ratingCaption(), "100 %");
-    EXPECT_EQ(rating().ratingBarWidth(1500), 1500);
+    EXPECT_EQ(ratingCaption(rating()), "100 %");
+    EXPECT_EQ(ratingBarWidth(rating(), 1500), 1500);
 
     (*game)->math.ratingconcessions = 40; // 50
     rating().ratingNextDay();
     EXPECT_EQ(rating().currentRating, 50);
     EXPECT_EQ(rating().currentAverage, 68); // (87 + 50) / 2
-    EXPECT_EQ(rating().ratingBarWidth(1001), 500);
+    EXPECT_EQ(ratingBarWidth(rating(), 1001), 500);
 }
 
 TEST_F(RatingFixture, TheSumClampsAtOneHundred) {
@@ -156,7 +157,7 @@ TEST_F(RatingFixture, SectionSaveLoadSame) {
     LineReader reader(in, "test.zvn");
     rating().loadRatings(reader);
     EXPECT_EQ(saved(), text);
-    EXPECT_EQ(rating().ratingCaption(), "64 %");
+    EXPECT_EQ(ratingCaption(rating()), "64 %");
     EXPECT_EQ(rating().bars()[11].height, 720);
     EXPECT_EQ(rating().bars()[11].colour, 0x80FFFFu); // later than the current month
     EXPECT_EQ(rating().bars()[0].colour, 0x00C000u);

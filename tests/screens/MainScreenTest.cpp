@@ -3,7 +3,7 @@
 #include "GameApplication.h"
 #include "GameWindows.h"
 #include "core/GameError.h"
-#include "session/MainTexts.h"
+#include "session/mainTexts.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"
 #include "frame/Twips.h"

@@ -1,6 +1,7 @@
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "session/Game.h"
+#include "session/mainTexts.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -117,7 +118,7 @@ TEST_F(CalendarFixture, LoadedWeekOutOfRangeDoesNotBreakTheArrows) {
     std::istringstream in("currentweek=-9\n");
     LineReader r(in, "game.zvn");
     cal().loadCalendar(r);
-    EXPECT_EQ(cal().weekArrows(), "");
+    EXPECT_EQ(weekArrows(cal()), "");
     std::istringstream big("currentyear=70000\n");
     LineReader r2(big, "game.zvn");
     EXPECT_THROW(cal().loadCalendar(r2), GameError);

@@ -1,6 +1,6 @@
 #include "session/Game.h"
 #include "core/GameError.h"
-#include "session/MainTexts.h"
+#include "session/mainTexts.h"
 #include "core/Toolbox.h"
 #include "support/TestSupport.h"
 

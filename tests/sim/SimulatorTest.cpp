@@ -20,7 +20,7 @@ struct SimRun {
 };
 
 SimRun simulate(const std::string& dataDir, const std::vector<std::string>& script,
-             const std::string& arg = "", std::uint64_t seed = 1, bool quiet = true) {
+                const std::string& arg = "", std::uint64_t seed = 1, bool quiet = true) {
     sim::SimOptions options;
     options.dataDir = dataDir;
     options.arg = arg;
@@ -65,10 +65,12 @@ TEST(Simulator, SameSeedSameGame) {
 
 TEST(Simulator, EchoesTheLogAndTheQuestions) {
     DataFolder data;
-    const SimRun run = simulate(data.path().string(), {"answer cancel", "quit", "day"}, "", 1, false);
+    const SimRun run =
+        simulate(data.path().string(), {"answer cancel", "quit", "day"}, "", 1, false);
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_NE(run.out.find(" -- Another day has arrived --\n"), std::string::npos);
-    EXPECT_NE(run.out.find("ask: Save your theater before quitting? -> cancel\n"), std::string::npos);
+    EXPECT_NE(run.out.find("ask: Save your theater before quitting? -> cancel\n"),
+              std::string::npos);
 }
 
 TEST(Simulator, QuittingEndsTheRunWithStatusZero) {
@@ -97,6 +99,10 @@ TEST(Simulator, AFatalErrorIsStatusSeventy) {
     EXPECT_EQ(run.status, 70);
     EXPECT_EQ(run.err.rfind("fatal: ", 0), 0u) << run.err;
     EXPECT_NE(run.err.find("gamespeed1"), std::string::npos);
+    // Not a GameError: a name typed with a byte that is no UTF-8 cannot go into the JSON.
+    const SimRun odd = simulate(shippedData(), {"buygame 1", "rename 1 caf\xe9", "state"});
+    EXPECT_EQ(odd.status, 70);
+    EXPECT_EQ(odd.err.rfind("fatal: ", 0), 0u) << odd.err;
 }
 
 TEST(Simulator, AMathFileArgumentReplacesMathTxtAlsoOnReload) {

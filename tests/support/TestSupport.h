@@ -55,7 +55,7 @@ class RecordingScreen : public NullScreen {
     }
     void titleStatus(const std::string& line) override { status.push_back(line); }
     void refresh(View v) override { refreshed.push_back(v); }
-    void showLose() override { ++loseShown; }
+    void showLose(LoseReason) override { ++loseShown; }
     int count(const std::string& line) const;
 };
 

@@ -19,7 +19,6 @@ namespace zorvane::screens {
 class QtScreen : public QObject, public ScreenPort {
     Q_OBJECT
 public:
-    static constexpr int viewCount = static_cast<int>(View::Advisor) + 1; // the last view
 
     // How a screen repaints a view. Several screens may paint the same view.
     void addPainter(View view, std::function<void()> paint);

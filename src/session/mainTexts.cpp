@@ -1,4 +1,6 @@
-#include "session/MainTexts.h"
+#include "session/mainTexts.h"
+
+#include <algorithm>
 
 #include "session/Game.h"
 #include "core/GameError.h"
@@ -42,7 +44,7 @@ DayBars dayBars(const Game& game) {
         if (current)
             bars.nextDayLeft = bar.left;
     }
-    bars.nextDayCaption = game.calendar.weekArrows();
+    bars.nextDayCaption = weekArrows(game.calendar);
     return bars;
 }
 
@@ -101,6 +103,11 @@ void Game::switchMode(int mode) {
 void Game::setupForms() {
     for (std::size_t mode = 0; mode < formColours.size(); ++mode)
         formColours[mode] = toInt32(leadingNumber(math.formcolor[mode]));
+}
+
+std::string weekArrows(const Calendar& calendar) {
+    // A loaded game may carry any week number; never draw a negative count.
+    return std::string(static_cast<std::size_t>(std::max(0, calendar.currentweek + 1)), '>');
 }
 
 } // namespace zorvane

@@ -1,6 +1,6 @@
 #include "MovieFixture.h"
 
-#include "movies/MovieTexts.h"
+#include "movies/movieTexts.h"
 
 using namespace zorvane;
 using namespace zorvane::test;

@@ -5,7 +5,6 @@
 
 namespace zorvane {
 
-class Calendar;
 class buildingManager;
 
 // What the building screen shows, built from the game state and nothing else: the window
@@ -28,7 +27,7 @@ struct BuildingTexts {
     std::array<std::string, 9> values;
     bool outOfOrder = false;
 };
-BuildingTexts buildingTexts(const buildingManager& building, const Calendar& calendar);
+BuildingTexts buildingTexts(const buildingManager& building, int yearsOld);
 
 // The four buttons, in the order the screen lays them out. Each presses one operation:
 // remodel, renovateBuilding, repairBuilding, purchaseBuilding. The remodel tip is a fixed

@@ -44,5 +44,7 @@ ShowtimeTableText showtimeTable(const MovieManager& mm);
 GridText adsGrid(const MovieManager& mm);
 // A ticket price box: "$#.00", so 6 is "$6.00" and 0.5 is "$.50".
 std::string ticketPriceText(double price);
+// The three ticket price boxes: standard, matinee, senior.
+std::array<std::string, 3> ticketPriceTexts(const MovieManager& mm);
 
 } // namespace zorvane

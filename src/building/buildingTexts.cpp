@@ -1,8 +1,7 @@
-#include "building/BuildingTexts.h"
+#include "building/buildingTexts.h"
 
 #include "building/buildingManager.h"
 #include "core/Toolbox.h"
-#include "session/Calendar.h"
 
 namespace zorvane {
 
@@ -15,9 +14,9 @@ std::string digits(double value) {
 
 } // namespace
 
-BuildingTexts buildingTexts(const buildingManager& b, const Calendar& calendar) {
+BuildingTexts buildingTexts(const buildingManager& b, int yearsOld) {
     BuildingTexts t;
-    t.values = {digits(calendar.getCurrentYear()) + " Years",
+    t.values = {digits(yearsOld) + " Years",
                 digits(b.condition) + " %",
                 formatMoneyShort(b.repairCost),
                 formatMoneyShort(b.renovateCost),

@@ -5,6 +5,8 @@
 
 namespace zorvane {
 
+class Calendar;
+
 class Game;
 
 // What the main screen shows, built from the game state and nothing else: the window only
@@ -50,6 +52,9 @@ struct DayBars {
     std::string nextDayCaption; // ">" once per week of the month so far
 };
 DayBars dayBars(const Game& game);
+
+// The next-day button's caption: ">" once per week of the month so far.
+std::string weekArrows(const Calendar& calendar);
 
 // --- the twelve month labels under the rating history, the current month lit ---
 struct MonthLabel {

@@ -1,4 +1,4 @@
-#include "movies/MovieTexts.h"
+#include "movies/movieTexts.h"
 
 #include "core/Numbers.h"
 #include "core/Toolbox.h"
@@ -105,6 +105,11 @@ std::string ticketPriceText(double price) {
         digits.erase(0, 1); // "#" shows no digit for a zero whole part
     const bool negative = price < 0 && digits.find_first_not_of("0.") != std::string::npos;
     return (negative ? "-$" : "$") + digits;
+}
+
+std::array<std::string, 3> ticketPriceTexts(const MovieManager& mm) {
+    return {ticketPriceText(mm.getTicketPrice(0)), ticketPriceText(mm.getTicketPrice(1)),
+            ticketPriceText(mm.getTicketPrice(2))};
 }
 
 } // namespace zorvane
