@@ -1,6 +1,7 @@
 #include "advisor/TutorTexts.h"
 
 #include "session/Game.h"
+#include "session/mainTexts.h"
 #include "core/Toolbox.h"
 
 #include <array>
@@ -119,7 +120,7 @@ std::string tutorValue(std::string_view name, const Game& game) {
     if (name == "showtimename3")
         return m.showtimename[3];
     if (name == "weekmarker")
-        return game.calendar.weekArrows();
+        return weekArrows(game.calendar);
     if (name == "currentweek")
         return wholeNumber(game.calendar.currentweek);
     if (name == "month")

@@ -1,6 +1,7 @@
 #include "frmLoader.h"
 
 #include "session/Game.h"
+#include "goals/goalTexts.h"
 #include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
@@ -114,7 +115,7 @@ void frmLoader::showDetails(const QString& text) { txtStatus_->setPlainText(text
 void frmLoader::refreshGoals() {
     const QSignalBlocker quiet(lstGoals_);
     lstGoals_->clear();
-    for (const std::string& name : game_.goals.goalNames())
+    for (const std::string& name : goalList(game_.goals))
         lstGoals_->addItem(QString::fromStdString(name));
 }
 

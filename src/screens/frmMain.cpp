@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include "session/Game.h"
+#include "reputation/reputationTexts.h"
 #include "session/mainTexts.h"
 #include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
@@ -528,8 +529,8 @@ void frmMain::paintSpeed() {
 
 void frmMain::paintRating() {
     const ratingManager& rating = game_.rating;
-    lblRatingCaption_->setText(QString::fromStdString(rating.ratingCaption()));
-    lblRatingBar_->resize(rating.ratingBarWidth(lblRatingBack_->width()), lblRatingBack_->height());
+    lblRatingCaption_->setText(QString::fromStdString(ratingCaption(rating)));
+    lblRatingBar_->resize(ratingBarWidth(rating, lblRatingBack_->width()), lblRatingBack_->height());
     const auto& bars = rating.bars();
     for (std::size_t m = 0; m < 12; ++m) {
         QLabel* bar = lblHistoryBar_[m];

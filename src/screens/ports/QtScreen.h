@@ -32,7 +32,7 @@ public:
     void titleStatus(const std::string& line) override { call(onTitleStatus, line); }
     void logLine(const std::string& line, bool cleared) override;
     void logCleared() override;
-    void showLose() override { call(onShowLose); }
+    void showLose(LoseReason) override { call(onShowLose); }
     bool graphVisible() const override { return onGraphVisible && onGraphVisible(); }
     void switchMode(int mode) override { call(onSwitchMode, mode); }
     bool buildingVisible() const override { return onBuildingVisible && onBuildingVisible(); }
