@@ -31,53 +31,35 @@ TEST_F(ItemFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
     EXPECT_DOUBLE_EQ(game->finances.funds, 10000 - 35);
 }
 
-TEST_F(ItemFixture, ChanceCountsThePriceInCentsPlusTheQualityBonus) {
-    // 100 - 300 cents * 0.2 + 0 = 40: a roll of 40 buys, 41 does not.
-    game->rng.force({0.395, 0.405});
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).stock, 9);
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).stock, 9);
-
-    item(0).setQuality(2); // +10: 50
-    game->rng.force({0.495, 0.505});
-    item(0).sell_consider();
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).stock, 8);
-
-    item(0).setQuality(0); // -10: 30
-    game->rng.force({0.295, 0.305});
-    item(0).sell_consider();
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).stock, 7);
-    EXPECT_EQ(game->rng.forcedLeft(), 0u);
-}
-
-TEST_F(ItemFixture, ChanceIsNotRounded) {
+// A customer buys when the percent roll is at most 100 - price in cents * concessconsidercost
+// + the quality's bonus, not rounded (quality 1's bonus is 0.5 here).
+TEST_F(ItemFixture, TheChanceToBuyTable) {
     game->math.concessconsiderqual[1] = 0.5;
-    item(1).setPrice(2.25);          // 100 - 45 + 0.5 = 55.5
-    game->rng.force({0.545, 0.555}); // rolls 55 and 56
-    item(1).sell_consider();
-    EXPECT_EQ(item(1).todayssold, 1);
-    item(1).sell_consider();
-    EXPECT_EQ(item(1).todayssold, 1);
-}
-
-TEST_F(ItemFixture, AHighPriceSellsNothingSoNoShortageIsTold) {
+    const struct {
+        int quality;
+        double price, draw;
+        bool sells;
+    } rows[] = {
+        {1, 3, 0.395, true}, {1, 3, 0.405, false},  // 40.5: rolls 40 and 41
+        {2, 3, 0.495, true}, {2, 3, 0.505, false},  // +10: 50
+        {0, 3, 0.295, true}, {0, 3, 0.305, false},  // -10: 30
+        {1, 2.25, 0.545, true}, {1, 2.25, 0.555, false}, // 55.5: rolls 55 and 56
+        {1, 10, 0.0, false},                        // -99.5: not even roll 1
+        {2, 0.01, 0.9999, true},                    // 109.8: even roll 100
+    };
+    for (const auto& r : rows) {
+        item(0).setQuality(r.quality);
+        item(0).setPrice(r.price);
+        const int before = item(0).todayssold;
+        game->rng.force(r.draw);
+        item(0).sell_consider();
+        EXPECT_EQ(item(0).todayssold - before, r.sells ? 1 : 0) << r.price << " " << r.draw;
+    }
+    // A chance that fails tells nothing of a shortage.
     item(0).stock = 0;
-    item(0).setPrice(10); // chance -100
-    game->rng.force(0.0); // the lowest roll, 1
+    game->rng.force(0.0);
     item(0).sell_consider();
-    EXPECT_EQ(game.screen.lines.size(), 0u);
-    EXPECT_EQ(game->finances.incdepconcessions, 0);
-}
-
-TEST_F(ItemFixture, AChanceOf100OrMoreAlwaysSells) {
-    item(2).setQuality(2);
-    item(2).setPrice(0.01);  // 100 - 0.2 + 10
-    game->rng.force(0.9999); // the highest roll, 100
-    item(2).sell_consider();
-    EXPECT_EQ(item(2).todayssold, 1);
+    EXPECT_TRUE(game.screen.lines.empty());
 }
 
 TEST_F(ItemFixture, ASaleBooksTheMarginUnderConcessions) {

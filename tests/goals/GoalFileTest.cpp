@@ -1,8 +1,8 @@
 // goals.cfg: how the file is read, and what the shipped file offers.
+#include "session/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
-#include "persistence/SessionPorts.h"
-#include "session/Game.h"
+#include "persistence/SavedFile.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -16,11 +16,11 @@ namespace {
 
 struct GoalFile : ::testing::Test {
     TempDir dir;
-    std::unique_ptr<PortGame> session;
+    std::unique_ptr<TestGame> session;
 
     goalManager& load(const std::string& text) {
         dir.write("goals.cfg", text);
-        session = std::make_unique<PortGame>(dir.path().string());
+        session = std::make_unique<TestGame>(dir.path().string());
         (*session)->goals.loadGoals();
         return (*session)->goals;
     }
@@ -97,13 +97,13 @@ TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
 }
 
 TEST_F(GoalFile, AMissingFileIsFatal) {
-    PortGame game(dir.path().string());
+    TestGame game(dir.path().string());
     EXPECT_THROW(game->goals.loadGoals(), GameError);
 }
 
 TEST_F(GoalFile, ADeadlineBeyondSixteenBitsIsFatal) {
     dir.write("goals.cfg", "<goal>\ndeadline=40000\n</goal>\n");
-    PortGame game(dir.path().string());
+    TestGame game(dir.path().string());
     try {
         game->goals.loadGoals();
         FAIL() << "no error";
@@ -138,7 +138,7 @@ TEST_F(GoalFile, TheDetailsBoxText) {
 
 TEST(ShippedGoals, OfferEveryTypeWithStartingFiguresAndReasonableDeadlines) {
     DataFolder data;
-    PortGame game(data.path().string());
+    TestGame game(data.path().string());
     game->goals.loadGoals();
     const goalManager& g = game->goals;
     ASSERT_GE(g.getLastGoal(), 8);

@@ -4,7 +4,7 @@
 #include "StateJson.h"
 #include "session/Game.h"
 #include "core/GameError.h"
-#include "persistence/SessionPorts.h"
+#include "persistence/SavedFile.h"
 #include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
@@ -34,15 +34,15 @@ std::string wholeGame() { return readFile(shippedData() + "/../tests/persistence
 struct SavedGameFixture : ::testing::Test {
     DataFolder data;
     TempDir saves;
-    std::unique_ptr<PortGame> session;
+    std::unique_ptr<TestGame> session;
 
-    PortGame& start(const std::string& arg = "") {
-        session = std::make_unique<PortGame>(data.path().string(), 7, arg);
+    TestGame& start(const std::string& arg = "") {
+        session = std::make_unique<TestGame>(data.path().string(), 7, arg);
         (*session)->startup();
         return *session;
     }
     Game& game() { return **session; }
-    PortDialogs& dialogs() { return session->dialogs; }
+    RecordingDialogs& dialogs() { return session->dialogs; }
     void days(int n) {
         for (int i = 0; i < n; ++i)
             game().calendar.nextDay();
@@ -285,6 +285,42 @@ const ReaderCase readerCases[] = {
                "</employee>\r\n</EMPS>\r\n<calendar>\r\ncurrentyear=2\r\n</calendar>\r\n",
      {{"/employees/0/num", 1}, {"/positions/2/myEmployee", 1}, {"/minWage", 6},
       {"/calendar/currentyear", 2}}},
+    {"EmployeeBlock",
+     version + "<emps>\r\n<employee>\r\nnum= 9\r\nNAME=Zed = Zimmer\r\nexp=2.5\r\nJob= 3\r\n"
+               "something=1\r\nfillingin=-1\r\ndaysworked=70000\r\nnoequals\r\n=5\r\n"
+               "</employee>\r\n</emps>\r\n",
+     {{"/employees/0/num", 1}, {"/employees/0/name", "Zed = Zimmer"}, {"/employees/0/exp", 2},
+      {"/employees/0/job", 3}, {"/employees/0/fillingin", false},
+      {"/employees/0/daysworked", 70000}, {"/positions/2/myEmployee", 1}}},
+    {"EmployeeJobEightStops",
+     version + "<emps>\r\n<employee>\r\njob=8\r\n</employee>\r\n</emps>\r\n" + after,
+     {{"/calendar/currentyear", same}}},
+    {"WagesBelowTheMinimumAsTheyStand",
+     version + "<positions>\r\n<position>\r\nWAGE=1.5\r\n</position>\r\n<position>\r\nx=1\r\n"
+               "wage=$3\r\n</position>\r\n</positions>\r\n",
+     {{"/positions/0/wage", 1.5}, {"/positions/1/wage", 0}, {"/positions/2/wage", same}}},
+    {"EightPositionBlocksStop",
+     version + "<positions>\r\n" + [] {
+         std::string blocks;
+         for (int i = 0; i < 8; ++i)
+             blocks += "<position>\r\nwage= 9\r\n</position>\r\n";
+         return blocks;
+     }() + "</positions>\r\n" + after,
+     {{"/calendar/currentyear", same}}},
+    // Promotions and the rating.
+    {"PromotionKeys",
+     version + "<promotions>\r\nRUNNING 3=2.5\r\nCost 4=99.5abc\r\nrunning 5=7\r\nrunning3=9\r\n"
+               "</promotions>\r\nrunning 0=4\r\n",
+     {{"/promotions/running/3", 2}, {"/promotions/cost/4", 99.5}, {"/promotions/running/0", same},
+      {"/promotions/points", 20}}},
+    {"RatingKeys",
+     version + "<ratings>\r\nCURRENTRATING=250\r\nHistory(3.5)=12\r\nhistoryx(2)=9\r\n"
+               "currentaverage=-3\r\n</ratings>\r\n",
+     {{"/rating/currentRating", 250}, {"/rating/history/4", 12}, {"/rating/history/2", 9},
+      {"/rating/currentAverage", -3}}},
+    {"RatingHistoryTwelveStops",
+     version + "<ratings>\r\nhistory(12)=1\r\n</ratings>\r\n" + after,
+     {{"/calendar/currentyear", same}}},
     // The stand.
     {"ConcessionBlocks",
      version + "<concessions>\r\njunk\r\n<CONCESSION NUM=3>\r\nNAME=Big Dog\r\nQuality=3\r\n"

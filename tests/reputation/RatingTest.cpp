@@ -36,12 +36,6 @@ struct RatingFixture : ::testing::Test {
         for (int i = 0; i < 5; ++i)
             (*game)->concessions.setItemQuality(i, q);
     }
-    std::string saved() {
-        std::ostringstream out;
-        LineWriter w(out);
-        rating().saveRatings(w);
-        return out.str();
-    }
 };
 
 } // namespace
@@ -137,49 +131,6 @@ TEST_F(RatingFixture, MonthEndTakesTheRatingOfTheDayBefore) {
     EXPECT_EQ(rating().history[0], 1);      // the rating of the day before
     EXPECT_EQ(rating().currentRating, 100); // the day's own rating came after
     EXPECT_EQ(rating().currentAverage, 50); // from 0 again
-}
-
-TEST_F(RatingFixture, SectionSaveLoadSame) {
-    rating().currentRating = 64;
-    rating().currentAverage = 31;
-    rating().history[0] = 5;
-    rating().history[11] = 100;
-    const std::string text = saved();
-    EXPECT_EQ(text.substr(0, 53), "<ratings>\r\ncurrentAverage= 31\r\ncurrentRating= 64\r\nhis");
-    EXPECT_NE(text.find("\r\nhistory(0)= 5\r\nhistory(1)= 0\r\n"), std::string::npos);
-    EXPECT_EQ(text.substr(text.size() - 30), "history(11)= 100\r\n</ratings>\r\n");
-
-    rating().currentRating = 1;
-    rating().history[0] = 0;
-    (*game)->calendar.currentmonth = 0;
-    std::istringstream in(text);
-    LineReader reader(in, "test.zvn");
-    rating().loadRatings(reader);
-    EXPECT_EQ(saved(), text);
-    EXPECT_EQ(rating().ratingCaption(), "64 %");
-    EXPECT_EQ(rating().bars()[11].height, 720);
-    EXPECT_EQ(rating().bars()[11].colour, 0x80FFFFu); // later than the current month
-    EXPECT_EQ(rating().bars()[0].colour, 0x00C000u);
-    EXPECT_EQ(rating().bars()[0].tip, "5%");
-}
-
-TEST_F(RatingFixture, SectionReaderQuirks) {
-    std::istringstream in("CURRENTRATING=250\r\n" // not clamped
-                          "History(3.5)=12\r\n"   // index ties to even: 4
-                          "historyx(2)=9\r\n"     // the first seven letters decide
-                          "currentaverage=-3\r\n"
-                          "</ratings>\r\n");
-    LineReader reader(in, "test.zvn");
-    rating().loadRatings(reader);
-    EXPECT_EQ(rating().currentRating, 250);
-    EXPECT_EQ(rating().history[4], 12);
-    EXPECT_EQ(rating().history[2], 9);
-    EXPECT_EQ(rating().currentAverage, -3);
-    EXPECT_NE(saved().find("currentAverage=-3\r\n"), std::string::npos);
-
-    std::istringstream bad("history(12)=1\r\n</ratings>\r\n");
-    LineReader badReader(bad, "test.zvn");
-    EXPECT_THROW(rating().loadRatings(badReader), GameError);
 }
 
 TEST(PromoScript, CommandsAndState) {

@@ -227,7 +227,10 @@ const CommandCase commandCases[] = {
     {"RenameNeedsAName", {"buygame 1", "rename 1"}, {}, Fails::Script},
     {"SellingAMissingMachineIsTheGamesFault", {"sellgame 9"}, {}, Fails::Game},
     // The bank.
+    {"ALoanAsTyped", {"loan $20,000 10"}, {{"/loan/loanAmount", 20000}, {"/loan/payPlan", 10}}},
     {"ALoanNeedsBothBoxes", {"loan 5000"}, {}, Fails::Script},
+    // The building's buttons.
+    {"RenovatingAWornHouse", {"day 28", "renovate"}, {{"/building/condition", 100}}},
 };
 
 struct CommandTable : SimScenario, ::testing::WithParamInterface<CommandCase> {};

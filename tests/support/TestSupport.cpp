@@ -1,5 +1,6 @@
 #include "support/TestSupport.h"
 
+#include <algorithm>
 #include <atomic>
 #include <fstream>
 #include <sstream>
@@ -74,7 +75,30 @@ std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
     return std::make_unique<Game>(std::move(setup));
 }
 
+int RecordingScreen::refreshes(View v) const {
+    return static_cast<int>(std::count(refreshed.begin(), refreshed.end(), v));
+}
+
 TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg)
     : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
+
+TestGame& TestGame::math(const std::string& entries) {
+    const fs::path path = fs::path(game->folder()) / "test-overrides.mth";
+    {
+        std::ofstream out(path, std::ios::binary);
+        bool lineStart = false; // blanks after a ';' are not part of the next key
+        for (char c : entries) {
+            if (lineStart && c == ' ')
+                continue;
+            lineStart = c == ';';
+            out << (lineStart ? '\n' : c);
+        }
+        out << '\n';
+    }
+    std::string p = path.string();
+    game->mathFile.loadMath(*game, p);
+    fs::remove(path);
+    return *this;
+}
 
 } // namespace zorvane::test
