@@ -171,16 +171,6 @@ TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
     EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
 }
 
-TEST_F(Machine, WithoutAutoRepairTheMachineStaysBroken) {
-    am().setAutoRepair(false);
-    arcade& a = addMachine(title(1, "Zap", 100));
-    a.Age = 3;
-    g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(0));
-    EXPECT_TRUE(a.IamBroke);
-    EXPECT_EQ(a.RepairBillsTotal, 0);
-}
-
 TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     arcade& first = addMachine(title(1, "One", 100));
     arcade& second = addMachine(title(2, "Two", 100));

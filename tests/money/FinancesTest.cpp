@@ -62,13 +62,6 @@ TEST_F(FinancesFixture, DepartmentWords) {
     EXPECT_EQ(f().getProfit(), "$984");
 }
 
-TEST_F(FinancesFixture, SetFundsTouchesNoTotal) {
-    f().setFunds(5000);
-    EXPECT_EQ(f().totalspent, 0);
-    EXPECT_EQ(f().totalincome, 0);
-    EXPECT_EQ(f().getProfit(), "$0");
-}
-
 TEST_F(FinancesFixture, HistFundsAndItsBounds) {
     f().setFunds(7);
     f().financesNextMonth(1);

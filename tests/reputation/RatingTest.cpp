@@ -1,4 +1,3 @@
-#include "Simulator.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "session/Game.h"
@@ -6,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <sstream>
 
 using namespace zorvane;
@@ -131,41 +129,4 @@ TEST_F(RatingFixture, MonthEndTakesTheRatingOfTheDayBefore) {
     EXPECT_EQ(rating().history[0], 1);      // the rating of the day before
     EXPECT_EQ(rating().currentRating, 100); // the day's own rating came after
     EXPECT_EQ(rating().currentAverage, 50); // from 0 again
-}
-
-TEST(PromoScript, CommandsAndState) {
-    DataFolder data;
-    std::ostringstream out;
-    sim::SimOptions options;
-    options.dataDir = data.path().string();
-    options.seed = 2;
-    options.quiet = true;
-    sim::Simulator simulator(options, out);
-    simulator.startup();
-    Game& game = simulator.game();
-    const int cap = static_cast<int>(game.math.promomax);
-    simulator.runLine("promo add 4", 1);
-    simulator.runLine("promo add 4", 2);
-    simulator.runLine("promo add 0", 3);
-    simulator.runLine("promo drop 4", 4);
-    EXPECT_EQ(game.promos.promoRunning[4], 1);
-    EXPECT_EQ(game.promos.promoRunning[0], 1);
-    EXPECT_THROW(simulator.runLine("promo add 5", 5), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo add", 6), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo buy 1", 7), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo dropall 1", 8), sim::ScriptError);
-
-    simulator.runLine("state", 9);
-    const auto state = nlohmann::json::parse(out.str());
-    ASSERT_EQ(state["promotions"]["running"].size(), 5u);
-    EXPECT_EQ(state["promotions"]["running"][4], 1);
-    EXPECT_EQ(state["promotions"]["cost"][4], game.promos.promoCost[4]);
-    EXPECT_EQ(state["promotions"]["points"], game.math.promo[4] + game.math.promo[0]);
-    EXPECT_EQ(state["rating"]["currentRating"], static_cast<int>(game.rating.currentRating));
-    EXPECT_EQ(state["rating"]["currentAverage"], static_cast<int>(game.rating.currentAverage));
-    ASSERT_EQ(state["rating"]["history"].size(), 12u);
-
-    simulator.runLine("promo dropall", 10);
-    EXPECT_EQ(game.promos.pointsNow(), 0);
-    EXPECT_GT(cap, 0);
 }

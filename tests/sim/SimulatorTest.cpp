@@ -226,6 +226,16 @@ const CommandCase commandCases[] = {
     {"MoveNeedsNumbers", {"buygame 1", "move 1 10 x 0 0"}, {}, Fails::Script},
     {"RenameNeedsAName", {"buygame 1", "rename 1"}, {}, Fails::Script},
     {"SellingAMissingMachineIsTheGamesFault", {"sellgame 9"}, {}, Fails::Game},
+    // Promotions.
+    {"PromotionsAddAndDrop",
+     {"promo add 4", "promo add 4", "promo add 0", "promo drop 4"},
+     {{"/promotions/running#", 5}, {"/promotions/running/4", 1}, {"/promotions/running/0", 1}}},
+    {"DropAllPromotions", {"promo add 4", "promo add 0", "promo dropall"},
+     {{"/promotions/running/4", 0}, {"/promotions/running/0", 0}}},
+    {"NoMediumFive", {"promo add 5"}, {}, Fails::Script},
+    {"PromoAddNeedsAMedium", {"promo add"}, {}, Fails::Script},
+    {"PromoBuyIsNoCommand", {"promo buy 1"}, {}, Fails::Script},
+    {"DropAllTakesNoMedium", {"promo dropall 1"}, {}, Fails::Script},
     // The bank.
     {"ALoanAsTyped", {"loan $20,000 10"}, {{"/loan/loanAmount", 20000}, {"/loan/payPlan", 10}}},
     {"ALoanNeedsBothBoxes", {"loan 5000"}, {}, Fails::Script},
