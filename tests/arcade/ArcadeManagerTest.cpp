@@ -98,7 +98,7 @@ TEST_F(Room, AMachineThatBreaksMidCrowdPlaysOnOnlyWhenRepairedAtOnce) {
             am().removeFromMyGames(1);
         arcade& one = addMachine(title(1, "One", 10));
         arcade& two = addMachine(title(2, "Two", 10));
-        g().math.percentarcade = 2; // a crowd of 100: two visitors
+        g().math.percentarcade = 2;                   // a crowd of 100: two visitors
         g().rng.force({roll(10), 0.0, roll(9), 0.9}); // visitor 1: one breaks, two plays
         if (autoRepair)
             g().rng.force({roll(8), 0.9, roll(7), 0.9}); // visitor 2 plays both

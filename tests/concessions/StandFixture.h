@@ -26,11 +26,10 @@ struct StandFixture : ::testing::Test {
             const std::string n = "; concess" + std::to_string(i);
             math += "; concessname" + std::to_string(i) + "=" + names[i] + n + "price=3" + n +
                     "cost=0.7" + n + "qualinit=1" + n + "buy=10; imgconcession" +
-                    std::to_string(i) + "=\\images\\concessions\\item" + std::to_string(i) +
-                    ".png";
+                    std::to_string(i) + "=\\images\\concessions\\item" + std::to_string(i) + ".png";
             for (int q = 0; q < 3; ++q)
-                math += n + "qual" + std::to_string(q) + "=" + std::array{"low ", "mid ", "high "}[q] +
-                        std::to_string(i);
+                math += n + "qual" + std::to_string(q) + "=" +
+                        std::array{"low ", "mid ", "high "}[q] + std::to_string(i);
         }
         game.math(math);
         game->finances.setFunds(10000);

@@ -1,8 +1,8 @@
 // goals.cfg: how the file is read, and what the shipped file offers.
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "persistence/SavedFile.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 // Goal menu.
 #include "Simulator.h"
 #include "StateJson.h"
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "persistence/SavedFile.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The lab plays whole games unattended: what it reports must be the game's own doing, the
 // same for the same seed on any number of threads, and never a fatal error.
-#include "core/GameError.h"
 #include "lab/Lab.h"
+#include "core/GameError.h"
 #include "lab/PlayerView.h"
 #include "lab/RandomStrategy.h"
 #include "lab/Strategy.h"

@@ -1,6 +1,6 @@
+#include "movies/Demand.h"
 #include "core/GameError.h"
 #include "core/MathVars.h"
-#include "movies/Demand.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 // Saved games taken apart: their lines, their sections, and the part a load brings back.
-#include "session/Game.h"
 #include "core/LineReader.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 // again byte for byte, and a table of hand-written files whose reading every section's
 // quirks decide.
 #include "StateJson.h"
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "persistence/SavedFile.h"
+#include "session/Game.h"
 #include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
@@ -29,7 +29,9 @@ const std::string after = "<calendar>\r\ncurrentyear=9\r\n</calendar>\r\n";
 
 // A game of 70 days with staff, movies, showtimes, snacks, an arcade machine, a promotion and
 // a loan, made by whole-game.txt beside it (zorvane-sim --data data --seed 2026).
-std::string wholeGame() { return readFile(shippedData() + "/../tests/persistence/whole.zvn"); }
+std::string wholeGame() {
+    return readFile(shippedData() + "/../tests/persistence/whole.zvn");
+}
 
 struct SavedGameFixture : ::testing::Test {
     DataFolder data;
@@ -146,18 +148,23 @@ const json same = nullptr;
 
 const ReaderCase readerCases[] = {
     // The container: version, tags and lines between sections.
-    {"SameVersionAsksNothing", version + "<calendar>\r\ncurrentday=3\r\n</calendar>\r\n",
+    {"SameVersionAsksNothing",
+     version + "<calendar>\r\ncurrentday=3\r\n</calendar>\r\n",
      {{"/calendar/currentday", 3}}},
     {"VersionKeyInAnyCase",
      "<version>\r\nPROGRAMVERSION=2.0.1\r\n</version>\r\n<calendar>\r\ncurrentday=4\r\n",
      {{"/calendar/currentday", 4}}},
     {"OtherVersionLoadsAndWarns",
      "<version>\r\nprogramVersion=1.9.9\r\n</version>\r\n<calendar>\r\ncurrentyear=2\r\n",
-     {{"/calendar/currentyear", 2}}, 1},
-    {"NoVersionWarns", "<calendar>\r\ncurrentday=6\r\n</calendar>\r\n",
-     {{"/calendar/currentday", 6}}, 1},
+     {{"/calendar/currentyear", 2}},
+     1},
+    {"NoVersionWarns",
+     "<calendar>\r\ncurrentday=6\r\n</calendar>\r\n",
+     {{"/calendar/currentday", 6}},
+     1},
     {"VersionAmongOtherKeys",
-     "<version>\r\n=2.0.1\r\nother=1\r\nprogramversion=2.0.1\r\n</version>\r\n", {}},
+     "<version>\r\n=2.0.1\r\nother=1\r\nprogramversion=2.0.1\r\n</version>\r\n",
+     {}},
     {"LastVersionDecidesWarn", version + "<version>\r\nprogramVersion=3\r\n</version>\r\n", {}, 1},
     {"LastVersionDecidesQuiet", "<version>\r\nprogramVersion=3\r\n</version>\r\n" + version, {}},
     {"VersionWithABlankIsAnother", "<version>\r\nprogramVersion=2.0.1 \r\n</version>\r\n", {}, 1},
@@ -166,37 +173,47 @@ const ReaderCase readerCases[] = {
                "<calendar>\r\ncurrentday=5\r\n</calendar>\r\n"
                "<finances>\r\nfunds=500\r\ntotalspent=20\r\n</finances>\r\n"
                "<finances>\r\nfunds=700\r\n</finances>\r\n",
-     {{"/calendar/currentday", 5}, {"/calendar/currentyear", 2}, {"/funds", 700},
+     {{"/calendar/currentday", 5},
+      {"/calendar/currentyear", 2},
+      {"/funds", 700},
       {"/totalspent", 20}}},
     {"UpperCaseTags",
      "<VERSION>\r\nprogramVersion=2.0.1\r\n</VERSION>\r\n<Calendar>\r\nCURRENTDAY=4\r\n"
      "currentYear=3\r\n</CALENDAR>\r\n<FINANCES>\r\nfunds=1234\r\n</FINANCES>\r\n",
      {{"/calendar/currentday", 4}, {"/calendar/currentyear", 3}, {"/funds", 1234}}},
     {"ATagWithABlankHidesItsSection",
-     version + "<calendar> \r\ncurrentday=5\r\ncurrentyear=4\r\n</calendar>\r\n"
-               " <finances>\r\nfunds=99\r\n</finances>\r\n<finances>\r\nfunds=77\r\n</finances>\r\n",
+     version +
+         "<calendar> \r\ncurrentday=5\r\ncurrentyear=4\r\n</calendar>\r\n"
+         " <finances>\r\nfunds=99\r\n</finances>\r\n<finances>\r\nfunds=77\r\n</finances>\r\n",
      {{"/calendar/currentday", same}, {"/calendar/currentyear", same}, {"/funds", 77}}},
     // The calendar reads on through <finances> to its own close tag.
     {"AMissingCloseTagRunsIntoTheNextSection",
      version + "<calendar>\r\ncurrentday=3\r\n<finances>\r\nfunds=555\r\ncurrentyear=6\r\n"
                "</finances>\r\n<calendar>\r\ncurrentweek=1\r\n",
-     {{"/funds", same}, {"/calendar/currentday", 3}, {"/calendar/currentyear", 6},
+     {{"/funds", same},
+      {"/calendar/currentday", 3},
+      {"/calendar/currentyear", 6},
       {"/calendar/currentweek", 1}}},
     {"LinesBetweenSectionsAndMathAreIgnored",
      "hello there\r\ncurrentday=6\r\n" + version +
          "<math>\r\nfundsmin=5\r\n</math>\r\n</calendar>\r\n<calendar>\r\ncurrentday=2\r\n"
          "</calendar>\r\njunk\r\n",
      {{"/math/fundsmin", same}, {"/calendar/currentday", 2}}},
-    {"LfLines", "<version>\nprogramVersion=2.0.1\n</version>\n<calendar>\ncurrentday=4\n",
+    {"LfLines",
+     "<version>\nprogramVersion=2.0.1\n</version>\n<calendar>\ncurrentday=4\n",
      {{"/calendar/currentday", 4}}},
-    {"CrLines", "<version>\rprogramVersion=2.0.1\r</version>\r<calendar>\rcurrentday=2\r",
+    {"CrLines",
+     "<version>\rprogramVersion=2.0.1\r</version>\r<calendar>\rcurrentday=2\r",
      {{"/calendar/currentday", 2}}},
     // A reader's failure ends the load silently, before the version message.
     {"AFailureStopsTheLoadKeepingWhatWasRead",
      "<version>\r\nprogramVersion=9\r\n</version>\r\n<calendar>\r\ncurrentday=3\r\n"
      "</calendar>\r\n<finances>\r\nfunds=444\r\nhistfunds(13)=5\r\ntotalspent=9\r\n"
-     "</finances>\r\n" + after,
-     {{"/calendar/currentday", 3}, {"/funds", 444}, {"/totalspent", same},
+     "</finances>\r\n" +
+         after,
+     {{"/calendar/currentday", 3},
+      {"/funds", 444},
+      {"/totalspent", same},
       {"/calendar/currentyear", same}}},
     // A staff with no close tag swallows the rest of the file.
     {"NoStaffCloseTagSwallowsTheRest",
@@ -206,7 +223,9 @@ const ReaderCase readerCases[] = {
     {"CalendarKeys",
      version + "<calendar>\r\nCURRENTDAY=5.5\r\nx=1\r\n=7\r\ncurrentweek 2\r\nonedayclose= 1\r\n"
                "</calendar>\r\ncurrentyear=9\r\n",
-     {{"/calendar/currentday", 6}, {"/calendar/currentweek", same}, {"/calendar/onedayclose", true},
+     {{"/calendar/currentday", 6},
+      {"/calendar/currentweek", same},
+      {"/calendar/onedayclose", true},
       {"/calendar/currentyear", same}}},
     {"CalendarYearBeyond16BitsStops",
      version + "<calendar>\r\ncurrentyear=70000\r\n</calendar>\r\n" + after,
@@ -220,8 +239,11 @@ const ReaderCase readerCases[] = {
      version + "<building>\r\nCONDITION=55.5\r\n=99\r\nseating 400\r\nSeating=abc\r\n"
                "RENT= 1234.5 dollars\r\nunknown=7\r\niambroken=1\r\n"
                "MonthsWithoutPayingRent=2.5\r\n</building>\r\ncondition=10\r\n",
-     {{"/building/condition", 56}, {"/building/seating", 0}, {"/building/rent", 1234.5},
-      {"/building/monthsWithoutPayingRent", 2}, {"/building/IamBroken", false}}},
+     {{"/building/condition", 56},
+      {"/building/seating", 0},
+      {"/building/rent", 1234.5},
+      {"/building/monthsWithoutPayingRent", 2},
+      {"/building/IamBroken", false}}},
     {"BuildingMissingKeysKeepTheirValues",
      version + "<building>\r\ncondition=50\r\n</building>\r\n",
      {{"/building/condition", 50}, {"/building/totalRentPaid", 999}},
@@ -230,7 +252,8 @@ const ReaderCase readerCases[] = {
     // Written with no "=", so never read; the broken flag's key never matches.
     {"BuildingRemodelCostAndBrokenFlagAreNeverRead",
      version + "<building>\r\nremodelcost42\r\nIamBroken=1\r\nrepairCost=600\r\n</building>\r\n",
-     {{"/building/remodelcost", same}, {"/building/IamBroken", false},
+     {{"/building/remodelcost", same},
+      {"/building/IamBroken", false},
       {"/building/repairCost", 0}}},
     {"BuildingSeatingBeyond16BitsStops",
      version + "<building>\r\nseating=40000\r\n</building>\r\n" + after,
@@ -240,14 +263,20 @@ const ReaderCase readerCases[] = {
      version + "<loans>\r\nINTERESTRATE=2.346\r\ncreditscore=61.125 points\r\n=5\r\n"
                "balance 99\r\nPayPlan=12.5\r\npaymentsRemaining=2.5\r\nmonthlyPayment=$12\r\n"
                "loanAmount=3000.125\r\n</loans>\r\nbalance=5\r\n",
-     {{"/loan/interestRate", 2.35}, {"/loan/creditScore", 61.12}, {"/loan/balance", same},
-      {"/loan/payPlan", 12}, {"/loan/paymentsRemaining", 2.5}, {"/loan/monthlyPayment", 0},
+     {{"/loan/interestRate", 2.35},
+      {"/loan/creditScore", 61.12},
+      {"/loan/balance", same},
+      {"/loan/payPlan", 12},
+      {"/loan/paymentsRemaining", 2.5},
+      {"/loan/monthlyPayment", 0},
       {"/loan/loanAmount", 3000.125}}},
     // Movies and showtimes.
     {"MoviesEndOnlyAtTheirOwnCloseTag",
      version + "<movies>\r\n</junk>\r\n<MOVIE_BUY>\r\nTitle=Late\r\nPop=30\r\n</MOVIE_BUY>\r\n"
                "TicketPriceSenior=3.5 dollars\r\n</MOVIES>\r\nticketPriceMatinee=1\r\n",
-     {{"/buyMovies#", 1}, {"/buyMovies/0/Title", "Late"}, {"/ticketPrice/2", 3.5},
+     {{"/buyMovies#", 1},
+      {"/buyMovies/0/Title", "Late"},
+      {"/ticketPrice/2", 3.5},
       {"/ticketPrice/1", same}}},
     {"OfferSortedWithoutPopularityOutsideOneToHundred",
      version + "<movies>\r\n<movie_buy>\r\nTitle=Low\r\nPop=20\r\n</movie_buy>\r\n"
@@ -257,9 +286,15 @@ const ReaderCase readerCases[] = {
     {"AMovieLoadEmptiesBothLists",
      version + "<movies>\r\n<movie_my>\r\nNum=7\r\nTITLE=A = B\r\nrunning=-1\r\npop=56.5\r\n"
                "CLASSIC=7.5\r\n=9\r\nnoise\r\n</movie_my>\r\n</movies>\r\n",
-     {{"/buyMovies#", 0}, {"/myMovies#", 1}, {"/myMovies/0/Num", 7},
-      {"/myMovies/0/Title", "A = B"}, {"/myMovies/0/Running", false}, {"/myMovies/0/Pop", 56},
-      {"/myMovies/0/Classic", 8}, {"/myMoviesSelected", 0}, {"/ticketPrice/0", same}},
+     {{"/buyMovies#", 0},
+      {"/myMovies#", 1},
+      {"/myMovies/0/Num", 7},
+      {"/myMovies/0/Title", "A = B"},
+      {"/myMovies/0/Running", false},
+      {"/myMovies/0/Pop", 56},
+      {"/myMovies/0/Classic", 8},
+      {"/myMoviesSelected", 0},
+      {"/ticketPrice/0", same}},
      0,
      wholeGame()},
     {"MovieRunningOnlyAsOne",
@@ -269,8 +304,11 @@ const ReaderCase readerCases[] = {
      version + "<showtimes>\r\n<SHOWTIME NUM=5>\r\nMATINEE=-1\r\nAds=2.5\r\nName=Late Show\r\n"
                "</showtime>\r\n<showtime num=6>\r\nmatinee=1\r\n</showtime>\r\n</showtimes>\r\n"
                "<showtime num=7>\r\nads=4\r\n</showtime>\r\n",
-     {{"/showtimes/4/matinee", false}, {"/showtimes/4/ads", 2}, {"/showtimes/4/name", "Late Show"},
-      {"/showtimes/5/matinee", true}, {"/showtimes/6/ads", same}}},
+     {{"/showtimes/4/matinee", false},
+      {"/showtimes/4/ads", 2},
+      {"/showtimes/4/name", "Late Show"},
+      {"/showtimes/5/matinee", true},
+      {"/showtimes/6/ads", same}}},
     {"ShowtimeNumberNineStops",
      version + "<showtimes>\r\n<showtime num=9>\r\n</showtime>\r\n</showtimes>\r\n" + after,
      {{"/calendar/currentyear", same}}},
@@ -283,15 +321,21 @@ const ReaderCase readerCases[] = {
     {"EmployeeNumbersOfTheFileAreIgnored",
      version + "<emps>\r\nminwage=6\r\n<employee>\r\nnum= 42\r\nname=Ann Able\r\njob=3\r\n"
                "</employee>\r\n</EMPS>\r\n<calendar>\r\ncurrentyear=2\r\n</calendar>\r\n",
-     {{"/employees/0/num", 1}, {"/positions/2/myEmployee", 1}, {"/minWage", 6},
+     {{"/employees/0/num", 1},
+      {"/positions/2/myEmployee", 1},
+      {"/minWage", 6},
       {"/calendar/currentyear", 2}}},
     {"EmployeeBlock",
      version + "<emps>\r\n<employee>\r\nnum= 9\r\nNAME=Zed = Zimmer\r\nexp=2.5\r\nJob= 3\r\n"
                "something=1\r\nfillingin=-1\r\ndaysworked=70000\r\nnoequals\r\n=5\r\n"
                "</employee>\r\n</emps>\r\n",
-     {{"/employees/0/num", 1}, {"/employees/0/name", "Zed = Zimmer"}, {"/employees/0/exp", 2},
-      {"/employees/0/job", 3}, {"/employees/0/fillingin", false},
-      {"/employees/0/daysworked", 70000}, {"/positions/2/myEmployee", 1}}},
+     {{"/employees/0/num", 1},
+      {"/employees/0/name", "Zed = Zimmer"},
+      {"/employees/0/exp", 2},
+      {"/employees/0/job", 3},
+      {"/employees/0/fillingin", false},
+      {"/employees/0/daysworked", 70000},
+      {"/positions/2/myEmployee", 1}}},
     {"EmployeeJobEightStops",
      version + "<emps>\r\n<employee>\r\njob=8\r\n</employee>\r\n</emps>\r\n" + after,
      {{"/calendar/currentyear", same}}},
@@ -300,23 +344,29 @@ const ReaderCase readerCases[] = {
                "wage=$3\r\n</position>\r\n</positions>\r\n",
      {{"/positions/0/wage", 1.5}, {"/positions/1/wage", 0}, {"/positions/2/wage", same}}},
     {"EightPositionBlocksStop",
-     version + "<positions>\r\n" + [] {
-         std::string blocks;
-         for (int i = 0; i < 8; ++i)
-             blocks += "<position>\r\nwage= 9\r\n</position>\r\n";
-         return blocks;
-     }() + "</positions>\r\n" + after,
+     version + "<positions>\r\n" +
+         [] {
+             std::string blocks;
+             for (int i = 0; i < 8; ++i)
+                 blocks += "<position>\r\nwage= 9\r\n</position>\r\n";
+             return blocks;
+         }() +
+         "</positions>\r\n" + after,
      {{"/calendar/currentyear", same}}},
     // Promotions and the rating.
     {"PromotionKeys",
      version + "<promotions>\r\nRUNNING 3=2.5\r\nCost 4=99.5abc\r\nrunning 5=7\r\nrunning3=9\r\n"
                "</promotions>\r\nrunning 0=4\r\n",
-     {{"/promotions/running/3", 2}, {"/promotions/cost/4", 99.5}, {"/promotions/running/0", same},
+     {{"/promotions/running/3", 2},
+      {"/promotions/cost/4", 99.5},
+      {"/promotions/running/0", same},
       {"/promotions/points", 20}}},
     {"RatingKeys",
      version + "<ratings>\r\nCURRENTRATING=250\r\nHistory(3.5)=12\r\nhistoryx(2)=9\r\n"
                "currentaverage=-3\r\n</ratings>\r\n",
-     {{"/rating/currentRating", 250}, {"/rating/history/4", 12}, {"/rating/history/2", 9},
+     {{"/rating/currentRating", 250},
+      {"/rating/history/4", 12},
+      {"/rating/history/2", 9},
       {"/rating/currentAverage", -3}}},
     {"RatingHistoryTwelveStops",
      version + "<ratings>\r\nhistory(12)=1\r\n</ratings>\r\n" + after,
@@ -327,13 +377,19 @@ const ReaderCase readerCases[] = {
                "=7\r\nno equals sign\r\nstock=12abc\r\nbuypermonth=2.5\r\ntodayssold=3.5\r\n"
                "price=\r\ncolour=red\r\n</concession>\r\n<concession num=2.5>\r\nstock=55\r\n"
                "</concession>\r\n</concessions>\r\n",
-     {{"/concessions/3/name", "Big Dog"}, {"/concessions/3/quality", 3},
-      {"/concessions/3/stock", 12}, {"/concessions/3/buypermonth", 2},
-      {"/concessions/3/todayssold", 4}, {"/concessions/3/price", 0},
-      {"/concessions/2/stock", 55}, {"/concessions/2/name", same}}},
+     {{"/concessions/3/name", "Big Dog"},
+      {"/concessions/3/quality", 3},
+      {"/concessions/3/stock", 12},
+      {"/concessions/3/buypermonth", 2},
+      {"/concessions/3/todayssold", 4},
+      {"/concessions/3/price", 0},
+      {"/concessions/2/stock", 55},
+      {"/concessions/2/name", same}}},
     {"ConcessionNumberFiveStops",
-     version + "<concessions>\r\n<concession num=5>\r\nstock=1\r\n</concession>\r\n"
-               "</concessions>\r\n" + after,
+     version +
+         "<concessions>\r\n<concession num=5>\r\nstock=1\r\n</concession>\r\n"
+         "</concessions>\r\n" +
+         after,
      {{"/calendar/currentyear", same}}},
     // The arcade.
     {"ArcadeBlocks",
@@ -342,13 +398,22 @@ const ReaderCase readerCases[] = {
                "myCabLeft=2000\r\n</arcade_my>\r\n<ARCADE_MY>\r\nNum=1\r\nName=B\r\n"
                "MyCabTop=900\r\nmyCabLeft=-5\r\n</arcade_my>\r\n<arcade_buy> \r\n"
                "Name=skipped\r\n</arcades>\r\n<arcade_buy>\r\n",
-     {{"/myGames#", 2}, {"/buyGames#", 0}, {"/myGames/0/Num", 2}, {"/myGames/0/Age", 4},
-      {"/myGames/0/IamBroke", false}, {"/myGames/0/Pop", 41}, {"/myGames/0/Name", "  spaced  "},
-      {"/myGames/0/left", 2000}, {"/myGames/0/top", 1800}, {"/myGames/1/left", 600},
+     {{"/myGames#", 2},
+      {"/buyGames#", 0},
+      {"/myGames/0/Num", 2},
+      {"/myGames/0/Age", 4},
+      {"/myGames/0/IamBroke", false},
+      {"/myGames/0/Pop", 41},
+      {"/myGames/0/Name", "  spaced  "},
+      {"/myGames/0/left", 2000},
+      {"/myGames/0/top", 1800},
+      {"/myGames/1/left", 600},
       {"/myGames/1/top", 900}}},
     {"ArcadeNumbersThatClashStop",
-     version + "<arcades>\r\n<arcade_my>\r\nNum=1\r\n</arcade_my>\r\n<arcade_my>\r\nNum=1\r\n"
-               "</arcade_my>\r\n</arcades>\r\n" + after,
+     version +
+         "<arcades>\r\n<arcade_my>\r\nNum=1\r\n</arcade_my>\r\n<arcade_my>\r\nNum=1\r\n"
+         "</arcade_my>\r\n</arcades>\r\n" +
+         after,
      {{"/calendar/currentyear", same}}},
     {"ArcadePopularityBeyond16BitsStops",
      version + "<arcades>\r\n<arcade_buy>\r\nPop=40000\r\n</arcade_buy>\r\n</arcades>\r\n" + after,

@@ -1,6 +1,6 @@
+#include "reputation/ratingTerms.h"
 #include "core/GameError.h"
 #include "reputation/ratingManager.h"
-#include "reputation/ratingTerms.h"
 
 #include <gtest/gtest.h>
 

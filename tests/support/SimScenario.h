@@ -42,7 +42,7 @@ inline void expectChecks(const nlohmann::json& before, const nlohmann::json& aft
 // A whole game on a copy of the shipped data, after start-up and "Play !", driven by script
 // lines exactly as zorvane-sim runs them.
 class SimScenario : public ::testing::Test {
-protected:
+  protected:
     DataFolder data;
     std::ostringstream out;
     std::unique_ptr<sim::Simulator> simulator;

@@ -38,7 +38,9 @@ std::string readFile(const std::string& path) {
     return ss.str();
 }
 
-std::string shippedData() { return ZORVANE_SOURCE_DATA; }
+std::string shippedData() {
+    return ZORVANE_SOURCE_DATA;
+}
 
 DataFolder::DataFolder() {
     for (const auto& entry : fs::directory_iterator(shippedData())) {
@@ -96,7 +98,7 @@ TestGame& TestGame::math(const std::string& entries) {
         out << '\n';
     }
     std::string p = path.string();
-    game->mathFile.loadMath(*game, p);
+    game->mathFile.loadMath(game->math, dialogs, p);
     fs::remove(path);
     return *this;
 }

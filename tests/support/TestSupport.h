@@ -76,9 +76,9 @@ class RecordingScreen : public NullScreen {
 };
 
 struct RecordingDialogs : ScriptedDialogs {
-    std::vector<Buttons> buttons;     // of each message box, in order
-    std::vector<FileMode> fileModes;  // of each file dialog, in order
-    std::vector<std::string> filters; // of each file dialog
+    std::vector<Buttons> buttons;           // of each message box, in order
+    std::vector<FileMode> fileModes;        // of each file dialog, in order
+    std::vector<std::string> filters;       // of each file dialog
     std::string prompt, title, defaultText; // of the last input box
     Answer ask(const std::string& text, Buttons b) override {
         buttons.push_back(b);
