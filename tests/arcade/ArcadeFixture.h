@@ -18,27 +18,14 @@ struct ArcadeFixture : ::testing::Test {
     void SetUp() override {
         dir.write("games.lst", "Alpha\r\nBravo\r\nCharlie\r\nDelta\r\nEcho\r\n");
         tg = std::make_unique<TestGame>(dir.path().string());
-        MathVars& m = g().math;
-        m.arcademax = 12;
-        m.arcadeimages = 6;
-        m.arcadenewgamespermonth = 3;
-        m.arcademaxgamesonbuylist = 10;
-        m.arcadeclassicmin = 5;
-        m.arcadeclassicmax = 30;
-        m.arcadepopmin = 1;
-        m.arcadepopmax = 100;
-        m.arcadepricemod = 40;
-        m.arcadepricebroke = 25;
-        m.arcadebreakchance = 2000;
-        m.arcaderepaircost = 20;
-        m.arcadeplayprice = {0, 0.25, 0.5, 0.75, 1.0};
-        m.arcadeplaypricedefault = 2;
-        m.arcadeplaychancepricemod = 50;
-        m.arcadeplaychanceplayedmod = 1;
-        m.arcadepopdropmin = 1;
-        m.arcadepopdropmax = 4;
-        m.percentarcade = 12;
-        m.inflation = 3;
+        tg->math("arcademax=12; arcadeimages=6; arcadenewgamespermonth=3;"
+                 "arcademaxgamesonbuylist=10; arcadeclassicmin=5; arcadeclassicmax=30;"
+                 "arcadepopmin=1; arcadepopmax=100; arcadepricemod=40; arcadepricebroke=25;"
+                 "arcadebreakchance=2000; arcaderepaircost=20; arcadeplayprice1=0.25;"
+                 "arcadeplayprice2=0.5; arcadeplayprice3=0.75; arcadeplayprice4=1;"
+                 "arcadeplaypricedefault=2; arcadeplaychancepricemod=50;"
+                 "arcadeplaychanceplayedmod=1; arcadepopdropmin=1; arcadepopdropmax=4;"
+                 "percentarcade=12; inflation=3");
         g().finances.setFunds(10000);
     }
 

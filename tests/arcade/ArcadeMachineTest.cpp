@@ -172,16 +172,6 @@ TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
     EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
 }
 
-TEST_F(Machine, WithoutAutoRepairTheMachineStaysBroken) {
-    am().setAutoRepair(false);
-    arcade& a = addMachine(title(1, "Zap", 100));
-    a.Age = 3;
-    g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
-    EXPECT_TRUE(a.IamBroke);
-    EXPECT_EQ(a.RepairBillsTotal, 0);
-}
-
 TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     arcade& first = addMachine(title(1, "One", 100));
     arcade& second = addMachine(title(2, "Two", 100));
@@ -315,86 +305,6 @@ TEST_F(Machine, CabinetTakesItsPictureSizeFromTheGif) {
     EXPECT_EQ(am().room.cabinet(1).width, 1200);
     EXPECT_EQ(am().room.cabinet(1).height, 1500);
     EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 600 - 135);
-}
-
-TEST_F(Machine, SaveBlockRoundTrip) {
-    auto t = title(4, "Pin Ball = Fun", 33, 12);
-    t->Age = 5;
-    t->IamBroke = true;
-    t->OriginalPrice = 1320.25;
-    t->RepairBillsTotal = 80;
-    t->PricePerPlay = 3;
-    t->TotalPlays = 1234;
-    t->Income = 925.5;
-    t->cost = 1359.6;
-    arcade& a = addMachine(t);
-    am().moveCabinet(1, 1000.5, 700, 0, 0);
-
-    std::ostringstream out;
-    LineWriter w(out);
-    a.saveSelf(w, "my");
-    const std::string text = out.str();
-    EXPECT_NE(text.find("<arcade_my>\r\nNum=1\r\nOriginalNum=4\r\nName=Pin Ball = Fun\r\n"),
-              std::string::npos);
-    EXPECT_NE(text.find("IamBroke=1\r\n"), std::string::npos);
-    EXPECT_NE(text.find("MyCabTop=2500\r\nmyCabLeft=1600.5\r\ncost=1359.6\r\n</arcade_my>"),
-              std::string::npos);
-
-    std::istringstream in(text);
-    LineReader r(in, "test");
-    std::string first;
-    r.readLine(first);
-    arcade b(g());
-    b.loadSelf(r);
-    EXPECT_TRUE(r.atEnd());
-    EXPECT_EQ(b.Num, 1);
-    EXPECT_EQ(b.OriginalNum, 4);
-    EXPECT_EQ(b.Name, "Pin Ball = Fun");
-    EXPECT_EQ(b.Pop, 33);
-    EXPECT_EQ(b.Classic, 12);
-    EXPECT_EQ(b.Age, 5);
-    EXPECT_TRUE(b.IamBroke);
-    EXPECT_EQ(b.OriginalPrice, 1320.25);
-    EXPECT_EQ(b.RepairBillsTotal, 80);
-    EXPECT_EQ(b.PricePerPlay, 3);
-    EXPECT_EQ(b.TotalPlays, 1234);
-    EXPECT_EQ(b.Income, 925.5);
-    EXPECT_EQ(b.MyCabTop, 2500);
-    EXPECT_EQ(b.myCabLeft, 1600.5f);
-    EXPECT_EQ(b.cost, 1359.6);
-}
-
-TEST_F(Machine, BuyBlockHasNoPlace) {
-    auto t = title(4, "Zap", 33);
-    std::ostringstream out;
-    LineWriter w(out);
-    t->saveSelf(w, "buy");
-    EXPECT_EQ(out.str().find("MyCabTop"), std::string::npos);
-    EXPECT_EQ(out.str().find("myCabLeft"), std::string::npos);
-    EXPECT_EQ(out.str().rfind("</arcade_buy>\r\n"), out.str().size() - 15);
-}
-
-TEST_F(Machine, LoadSelfReadsLeadingNumbersAndSkipsOddLines) {
-    std::istringstream in("NUM=2.5\r\n=7\r\nno equals\r\nIAMBROKE=1.5\r\nPop= 41abc\r\n"
-                          "Name=  spaced  \r\nunknown=3\r\nAge=3.5\r\n</arcade_buy>\r\nPop=99\r\n");
-    LineReader r(in, "test");
-    arcade b(g());
-    b.loadSelf(r);
-    EXPECT_EQ(b.Num, 2); // ties to even
-    EXPECT_EQ(b.Age, 4);
-    EXPECT_FALSE(b.IamBroke); // only exactly 1 is broken
-    EXPECT_EQ(b.Pop, 41);
-    EXPECT_EQ(b.Name, "  spaced  ");
-    std::string rest;
-    ASSERT_TRUE(r.readLine(rest));
-    EXPECT_EQ(rest, "Pop=99"); // the closing tag was consumed, nothing more
-}
-
-TEST_F(Machine, LoadSelfOverflowIsFatal) {
-    std::istringstream in("Pop=40000\r\n");
-    LineReader r(in, "test");
-    arcade b(g());
-    EXPECT_THROW(b.loadSelf(r), GameError);
 }
 
 } // namespace

@@ -4,54 +4,24 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <memory>
-#include <vector>
+#include <string>
 
 namespace zorvane::test {
 
-// A screen that also records which child screen was brought to the front.
-struct BuildingScreen : RecordingScreen {
-    std::vector<int> modes;
-    bool visible = false;
-    void switchMode(int mode) override { modes.push_back(mode); }
-    bool buildingVisible() const override { return visible; }
-    int refreshes(View v) const {
-        return static_cast<int>(std::count(refreshed.begin(), refreshed.end(), v));
-    }
-};
-
-// A game with no files: the building's keys are set by each test.
+// A game with no files: the building's keys as each test knows them.
 struct BuildingFixture : ::testing::Test {
     TempDir dir;
-    BuildingScreen screen;
-    ScriptedDialogs dialogs;
-    std::unique_ptr<Game> game = makeGame(screen, dialogs);
+    TestGame tg{dir.path().string()};
+    std::unique_ptr<Game>& game = tg.game;
+    RecordingScreen& screen = tg.screen;
 
-    std::unique_ptr<Game> makeGame(BuildingScreen& s, ScriptedDialogs& d) {
-        GameSetup setup;
-        setup.folder = dir.path().string();
-        setup.screen = &s;
-        setup.dialogs = &d;
-        auto g = std::make_unique<Game>(std::move(setup));
-        MathVars& m = g->math;
-        m.buildingconditioninit = Int16{90};
-        m.buildingseating = Int16{120};
-        m.buildingseatingmax = Int16{320};
-        m.buildingremodelcost = 1500;
-        m.buildingremodelseats = Int16{50};
-        m.buildingremodelcondition = 10;
-        m.buildingconditiondrop = 1;
-        m.buildingbreakdownchance = 0.6;
-        m.buildingrepaircost = Int16{60};
-        m.buildingrenovationcost = Int16{800};
-        m.buildingrent = 7500;
-        m.buildingrentgrace = Int16{3};
-        m.buildingpurchasebase = 250000;
-        m.buildingpurchaseinc = 25000;
-        m.inflation = 0;
-        g->building.initBuilding();
-        return g;
+    BuildingFixture() {
+        tg.math("buildingconditioninit=90; buildingseating=120; buildingseatingmax=320;"
+                "buildingremodelcost=1500; buildingremodelseats=50; buildingremodelcondition=10;"
+                "buildingconditiondrop=1; buildingbreakdownchance=0.6; buildingrepaircost=60;"
+                "buildingrenovationcost=800; buildingrent=7500; buildingrentgrace=3;"
+                "buildingpurchasebase=250000; buildingpurchaseinc=25000; inflation=0");
+        game->building.initBuilding();
     }
 
     buildingManager& b() { return game->building; }

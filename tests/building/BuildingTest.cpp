@@ -13,18 +13,6 @@
 using namespace zorvane;
 using namespace zorvane::test;
 
-TEST_F(BuildingFixture, InitBuildingTakesTheKeys) {
-    EXPECT_EQ(b().condition, 90);
-    EXPECT_EQ(b().getCondition(), 90);
-    EXPECT_EQ(b().getSeating(), 120);
-    EXPECT_EQ(b().getRent(), 7500);
-    EXPECT_EQ(b().remodelcost, 120 * 1500);
-    EXPECT_TRUE(b().isInOrder());
-    EXPECT_EQ(b().repairCost, 0);            // only a broken house has a repair cost
-    EXPECT_EQ(b().renovateCost, 10 * 800.0); // renovation costs the wear, broken or not
-    EXPECT_GE(screen.refreshes(View::Building), 1);
-}
-
 TEST_F(BuildingFixture, UnpaidRentWarnsGracePlusOneTimesThenLoses) {
     game->math.buildingrentgrace = Int16{2};
     game->math.buildingrent = 1000;
@@ -286,15 +274,6 @@ TEST_F(BuildingFixture, PurchaseEndsTheRentAndItsDebt) {
     EXPECT_EQ(screen.lines.back(),
               "You have already purchased your building, you are no longer paying rent!");
     EXPECT_EQ(money().funds, 1);
-}
-
-TEST_F(BuildingFixture, TheDayRefreshesOnlyAVisibleScreen) {
-    const auto before = screen.refreshes(View::Building);
-    b().buildingNextDay();
-    EXPECT_EQ(screen.refreshes(View::Building), before);
-    screen.visible = true;
-    b().buildingNextDay();
-    EXPECT_EQ(screen.refreshes(View::Building), before + 1);
 }
 
 TEST_F(BuildingFixture, ScreenTexts) {

@@ -13,13 +13,6 @@ using namespace zorvane::test;
 
 namespace {
 
-std::string savedStand(const ConcessionManager& stand) {
-    std::ostringstream out;
-    LineWriter w(out);
-    stand.saveConcessions(w);
-    return out.str();
-}
-
 int refreshes(const RecordingScreen& screen, View v) {
     return static_cast<int>(std::count(screen.refreshed.begin(), screen.refreshed.end(), v));
 }
@@ -162,50 +155,4 @@ TEST_F(StandFixture, YearlyInflationOnEveryItem) {
     stand().concessionsNextYear();
     for (int i = 0; i < 5; ++i)
         EXPECT_DOUBLE_EQ(item(i).cost, 0.721);
-}
-
-TEST_F(StandFixture, SectionSaveLoadSame) {
-    item(0).setPrice(3.33);
-    item(1).setQuality(2);
-    item(2).setBuyQuant(-5);
-    item(3).sell();
-    item(4).name = "Nachos Grande";
-    stand().concessionsNextYear();
-    const std::string first = savedStand(stand());
-    EXPECT_EQ(first.rfind("<concessions>\r\n<concession num=0>\r\nname=Popcorn\r\n", 0), 0u);
-    EXPECT_EQ(first.substr(first.size() - 31), "</concession>\r\n</concessions>\r\n");
-
-    TempDir otherDir;
-    TestGame other(otherDir.path().string());
-    for (int i = 0; i < 5; ++i) // numbered at set-up, which every game runs
-        other->concessions.item(i).num = i;
-    std::istringstream in(first + "after=1\r\n");
-    LineReader reader(in, "test.zvn");
-    other->concessions.loadConcessions(reader);
-    EXPECT_EQ(savedStand(other->concessions), first);
-    EXPECT_EQ(other->concessions.item(4).name, "Nachos Grande");
-    EXPECT_EQ(other->concessions.item(2).buypermonth, -5);
-    std::string next;
-    ASSERT_TRUE(reader.readLine(next)); // the section ended at its close tag
-    EXPECT_EQ(next, "after=1");
-}
-
-TEST_F(StandFixture, SectionReaderQuirks) {
-    std::istringstream in("junk\r\n"
-                          "<CONCESSION NUM=3>\r\n"
-                          "stock=77\r\n"
-                          "</concession>\r\n"
-                          "<concession num=2.5>\r\n" // ties to even: item 2
-                          "stock=55\r\n"
-                          "</concession>\r\n"
-                          "</concessions>\r\n");
-    LineReader reader(in, "test.zvn");
-    stand().loadConcessions(reader);
-    EXPECT_EQ(item(3).stock, 77);
-    EXPECT_EQ(item(2).stock, 55);
-    EXPECT_EQ(item(3).name, "Hot Dog"); // missing keys keep their value
-
-    std::istringstream bad("<concession num=5>\r\nstock=1\r\n</concession>\r\n</concessions>\r\n");
-    LineReader badReader(bad, "test.zvn");
-    EXPECT_THROW(stand().loadConcessions(badReader), GameError);
 }

@@ -19,23 +19,19 @@ struct StandFixture : ::testing::Test {
     Concession& item(int i) { return game->concessions.item(i); }
 
     void SetUp() override {
-        MathVars& m = game->math;
         const std::array<const char*, 5> names = {"Popcorn", "Soda", "Candy", "Hot Dog", "Nachos"};
+        std::string math = "concessqualcost=0.1; concessconsidercost=0.2; concessconsiderqual0=-10;"
+                           "concessconsiderqual2=10; percentconcessions=8; inflation=3";
         for (std::size_t i = 0; i < 5; ++i) {
-            m.concessname[i] = names[i];
-            m.concessqual[i] = {"low " + std::to_string(i), "mid " + std::to_string(i),
-                                "high " + std::to_string(i), ""};
-            m.concessprice[i] = 3;
-            m.concesscost[i] = 0.7;
-            m.concessqualinit[i] = 1;
-            m.concessbuy[i] = 10;
-            m.imgconcession[i] = "\\images\\concessions\\item" + std::to_string(i) + ".png";
+            const std::string n = "; concess" + std::to_string(i);
+            math += "; concessname" + std::to_string(i) + "=" + names[i] + n + "price=3" + n +
+                    "cost=0.7" + n + "qualinit=1" + n + "buy=10; imgconcession" +
+                    std::to_string(i) + "=\\images\\concessions\\item" + std::to_string(i) + ".png";
+            for (int q = 0; q < 3; ++q)
+                math += n + "qual" + std::to_string(q) + "=" +
+                        std::array{"low ", "mid ", "high "}[q] + std::to_string(i);
         }
-        m.concessqualcost = 0.1;
-        m.concessconsidercost = 0.2;
-        m.concessconsiderqual = {-10, 0, 10, 0};
-        m.percentconcessions = 8;
-        m.inflation = 3;
+        game.math(math);
         game->finances.setFunds(10000);
         stand().initConcessions();
     }

@@ -2,7 +2,7 @@
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "goals/goalTexts.h"
-#include "persistence/SessionPorts.h"
+#include "persistence/SavedFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
@@ -17,11 +17,11 @@ namespace {
 
 struct GoalFile : ::testing::Test {
     TempDir dir;
-    std::unique_ptr<PortGame> session;
+    std::unique_ptr<TestGame> session;
 
     goalManager& load(const std::string& text) {
         dir.write("goals.cfg", text);
-        session = std::make_unique<PortGame>(dir.path().string());
+        session = std::make_unique<TestGame>(dir.path().string());
         (*session)->goals.loadGoals();
         return (*session)->goals;
     }
@@ -98,13 +98,13 @@ TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
 }
 
 TEST_F(GoalFile, AMissingFileIsFatal) {
-    PortGame game(dir.path().string());
+    TestGame game(dir.path().string());
     EXPECT_THROW(game->goals.loadGoals(), GameError);
 }
 
 TEST_F(GoalFile, ADeadlineBeyondSixteenBitsIsFatal) {
     dir.write("goals.cfg", "<goal>\ndeadline=40000\n</goal>\n");
-    PortGame game(dir.path().string());
+    TestGame game(dir.path().string());
     try {
         game->goals.loadGoals();
         FAIL() << "no error";
@@ -139,7 +139,7 @@ TEST_F(GoalFile, TheDetailsBoxText) {
 
 TEST(ShippedGoals, OfferEveryTypeWithStartingFiguresAndReasonableDeadlines) {
     DataFolder data;
-    PortGame game(data.path().string());
+    TestGame game(data.path().string());
     game->goals.loadGoals();
     const goalManager& g = game->goals;
     ASSERT_GE(g.getLastGoal(), 8);

@@ -3,7 +3,7 @@
 #include "Simulator.h"
 #include "StateJson.h"
 #include "core/GameError.h"
-#include "persistence/SessionPorts.h"
+#include "persistence/SavedFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
@@ -27,16 +27,16 @@ std::string goalBlock(const std::string& lines) {
 
 struct GoalPlay : ::testing::Test {
     DataFolder data;
-    std::unique_ptr<PortGame> session;
+    std::unique_ptr<TestGame> session;
 
     void SetUp() override {
-        session = std::make_unique<PortGame>(data.path().string(), 3);
+        session = std::make_unique<TestGame>(data.path().string(), 3);
         game().startup();
     }
     Game& game() { return **session; }
     goalManager& goals() { return game().goals; }
-    PortDialogs& dialogs() { return session->dialogs; }
-    PortScreen& screen() { return session->screen; }
+    RecordingDialogs& dialogs() { return session->dialogs; }
+    RecordingScreen& screen() { return session->screen; }
 
     // Replaces goals.cfg and reads it again: targets can then be set from today's figures.
     void useGoals(const std::string& blocks) {

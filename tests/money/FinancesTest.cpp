@@ -62,13 +62,6 @@ TEST_F(FinancesFixture, DepartmentWords) {
     EXPECT_EQ(f().getProfit(), "$984");
 }
 
-TEST_F(FinancesFixture, SetFundsTouchesNoTotal) {
-    f().setFunds(5000);
-    EXPECT_EQ(f().totalspent, 0);
-    EXPECT_EQ(f().totalincome, 0);
-    EXPECT_EQ(f().getProfit(), "$0");
-}
-
 TEST_F(FinancesFixture, HistFundsAndItsBounds) {
     f().setFunds(7);
     f().financesNextMonth(1);
@@ -81,42 +74,4 @@ TEST_F(FinancesFixture, HistFundsAndItsBounds) {
     EXPECT_EQ(f().getHistFunds(12), 0);
     EXPECT_THROW(f().getHistFunds(13), GameError);
     EXPECT_THROW(f().getHistFunds(-1), GameError);
-}
-
-TEST_F(FinancesFixture, SavedSectionLosesMonthZero) {
-    f().setFunds(1234.5);
-    f().spend(0.25, "labor");
-    for (int m = 1; m <= 12; ++m) {
-        f().setFunds(1000 + m);
-        f().financesNextMonth(m);
-    }
-    std::ostringstream out;
-    LineWriter w(out);
-    f().saveFinances(w);
-    const std::string text = out.str();
-    EXPECT_EQ(text.find("histfunds(0)"), std::string::npos);
-    EXPECT_NE(text.find("histfunds(12)=0\r\n"), std::string::npos);
-    EXPECT_NE(text.find("deplabor=0.25\r\n"), std::string::npos);
-
-    TempDir other;
-    TestGame loaded{other.path().string()};
-    std::istringstream in(text.substr(text.find('\n') + 1)); // behind the open tag
-    LineReader r(in, "game.zvn");
-    loaded->finances.loadFinances(r);
-    EXPECT_EQ(loaded->finances.histfunds[0], 0);
-    for (int i = 1; i <= 11; ++i)
-        EXPECT_EQ(loaded->finances.histfunds[i], f().histfunds[i]);
-    EXPECT_EQ(loaded->finances.funds, f().funds);
-    EXPECT_EQ(loaded->finances.deplabor, 0.25);
-}
-
-TEST_F(FinancesFixture, LoadedKeysAreCaseSensitiveAndIndexesChecked) {
-    std::istringstream in("FUNDS=5\nfunds=6\ntotalspent\nhistfunds(3)=33\n</finances>\nfunds=9\n");
-    LineReader r(in, "game.zvn");
-    f().loadFinances(r);
-    EXPECT_EQ(f().funds, 6);
-    EXPECT_EQ(f().histfunds[3], 33);
-    std::istringstream bad("histfunds(13)=1\n");
-    LineReader r2(bad, "game.zvn");
-    EXPECT_THROW(f().loadFinances(r2), GameError);
 }

@@ -14,16 +14,8 @@ struct LoanFixture : ::testing::Test {
     TestGame game{dir.path().string()};
 
     LoanFixture() {
-        MathVars& m = game->math;
-        m.loanmlv = 1000;
-        m.loanpaymentsmin = Int16{6};
-        m.loanpaymentsmax = Int16{48};
-        m.loangrace = Int16{2};
-        m.loanir = 0.04;
-        m.loancs = 50;
-        m.loancsmax = 100;
-        m.loancsdec = 0.0002;
-        m.loancsinc = 0.00005;
+        game.math("loanmlv=1000; loanpaymentsmin=6; loanpaymentsmax=48; loangrace=2; loanir=0.04;"
+                  "loancs=50; loancsmax=100; loancsdec=0.0002; loancsinc=0.00005");
         loans().loansSetDefaults();
     }
 

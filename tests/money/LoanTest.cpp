@@ -1,9 +1,11 @@
+#include "core/LineReader.h"
 #include "money/LoanFixture.h"
 #include "money/moneyTexts.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -196,4 +198,43 @@ TEST_F(LoanFixture, TheScoreStaysBetweenZeroAndTheMaximum) {
     loans().raiseCreditScore(1234.5); // 0.061725 to two decimals
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 0.06);
     EXPECT_EQ(creditText(loans()), "0.06 %");
+}
+
+// ---------------------------------------------------------------- saved games
+
+namespace {
+
+// Reads a section body, as the container hands it over behind the open tag.
+void loadLoans(loanManager& loans, const std::string& body) {
+    std::istringstream in(body);
+    LineReader r(in, "test.zvn");
+    loans.loadLoans(r);
+}
+
+} // namespace
+
+TEST_F(LoanFixture, ALoadLeavesTheMissesInARowAsTheyWere) {
+    take("10000", "10");
+    money().setFunds(100);
+    loans().loansNextMonth();
+    loans().loansNextMonth();
+    EXPECT_EQ(loans().missedPayments, 2);
+    loadLoans(loans(), "balance=10000\r\n</loans>\r\n");
+    EXPECT_EQ(loans().missedPayments, 2);
+    loans().loansNextMonth(); // so the next miss still loses
+    EXPECT_EQ(game->loseShown, 1);
+}
+
+TEST_F(LoanFixture, ALoadedNegativeBalanceIsReimbursedAtTheMonth) {
+    money().setFunds(1000);
+    loadLoans(loans(), "balance=-50.5\r\nloanAmount=1000\r\npayPlan=10\r\nmonthlyPayment=120\r\n"
+                       "</loans>\r\n");
+    loans().loansNextMonth();
+    EXPECT_EQ(money().funds, 1050.5);
+    EXPECT_EQ(money().totalincome, 50.5); // "loan" counts for no income department
+    EXPECT_EQ(money().deploan, 0);
+    EXPECT_EQ(game.screen.lines.back(), "You were overcharged on your final loan payment, $50.50 "
+                                        "has been reimbursed to you.");
+    EXPECT_EQ(loans().loanAmount, 0);
+    EXPECT_EQ(loans().balance, 0);
 }

@@ -6,139 +6,88 @@
 
 using namespace zorvane;
 
-namespace {
-
-// Every term 0 but the one a test looks at.
-struct DemandFormula : ::testing::Test {
+// One row a case of the demand formula: the math terms, the show's inputs, the demand.
+// Every term not named is 0; the showtime is 4 (term 0) unless named.
+TEST(DemandFormula, Table) {
+    struct Row {
+        const char* what;
+        double base, pop, price, promotion, rating;
+        int dupe;
+        DemandInputs in;
+        double expected;
+    };
+    const std::vector<double> showtimeTerms = {0, -6, -4, -2, 0, 8, 12, 6, -4};
+    auto inputs = [](int popularity, double price, int showtime, int promo, int rating,
+                     int duplicates) {
+        DemandInputs in;
+        in.popularity = popularity;
+        in.price = price;
+        in.showtime = showtime;
+        in.promoPoints = promo;
+        in.rating = rating;
+        in.duplicates = duplicates;
+        return in;
+    };
+    const Row rows[] = {
+        {"base plus popularity", 15, 0.6, 0, 0, 0, 0, inputs(50, 0, 4, 0, 0, 0), 45},
+        {"a hundred times the price", 80, 0, 0.06, 0, 0, 0, inputs(0, 6, 4, 0, 0, 0), 44},
+        {"this showtime's term", 50, 0, 0, 0, 0, 0, inputs(0, 0, 6, 0, 0, 0), 62},
+        {"showtime 1", 50, 0, 0, 0, 0, 0, inputs(0, 0, 1, 0, 0, 0), 44},
+        {"promotion and rating add", 10, 0, 0, 0.2, 0.3, 0, inputs(0, 0, 4, 40, 50, 0), 33},
+        {"unrounded", 15, 0.6, 0.06, 0, 0, 0, inputs(57, 4.5, 4, 0, 0, 0), 15 + 34.2 - 27},
+        {"clamped up to one", 0.5, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 1},
+        {"clamped from below zero", -40, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 1},
+        {"clamped down to a hundred", 100.5, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 100},
+        {"just under a hundred", 99.75, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 99.75},
+        // cut = Int(8.55) = 8; two other showings take 16 (multiplying first: 17.1).
+        {"cut floored then multiplied", 57, 0, 0, 0, 0, 15, inputs(0, 0, 4, 0, 0, 2), 41},
+        {"no duplicates no cut", 57, 0, 0, 0, 0, 15, inputs(0, 0, 4, 0, 0, 0), 57},
+        {"cut on the whole demand", 30, 0, 0, 0, 1, 50, inputs(0, 0, 4, 0, 20, 1), 25},
+        // cut = Int(-3.5) = -4 (away from zero): -7 + 12 = 5.
+        {"negative cut raises", -7, 0, 0, 0, 0, 50, inputs(0, 0, 4, 0, 0, 3), 5},
+        {"negative cut then clamped", -7, 0, 0, 0, 0, 50, inputs(0, 0, 4, 0, 0, 1), 1},
+    };
+    for (const Row& r : rows) {
+        MathVars m;
+        m.demandbase = r.base;
+        m.demandpop = r.pop;
+        m.demandprice = r.price;
+        m.demandpromotion = r.promotion;
+        m.demandrating = r.rating;
+        m.demanddupe = Int16{r.dupe};
+        std::copy(showtimeTerms.begin(), showtimeTerms.end(), m.demandshowtime.begin());
+        EXPECT_NEAR(demandPercent(m, r.in), r.expected, 1e-9) << r.what;
+    }
     MathVars m;
-    DemandInputs in;
-    void SetUp() override { in.showtime = 4; }
-    double demand() { return demandPercent(m, in); }
-};
-
-} // namespace
-
-TEST_F(DemandFormula, BasePlusPopularity) {
-    m.demandbase = 15;
-    m.demandpop = 0.6;
-    in.popularity = 50;
-    EXPECT_DOUBLE_EQ(demand(), 45);
-}
-
-TEST_F(DemandFormula, PriceTakesAHundredTimesItsTerm) {
-    m.demandbase = 80;
-    m.demandprice = 0.06;
-    in.price = 6;
-    EXPECT_DOUBLE_EQ(demand(), 80 - 36);
-}
-
-TEST_F(DemandFormula, ShowtimeTermIsThisShowtimes) {
-    m.demandbase = 50;
-    m.demandshowtime = {0, -6, -4, -2, 0, 8, 12, 6, -4};
-    in.showtime = 6;
-    EXPECT_DOUBLE_EQ(demand(), 62);
-    in.showtime = 1;
-    EXPECT_DOUBLE_EQ(demand(), 44);
-    in.showtime = 9;
-    EXPECT_THROW(demand(), GameError);
-}
-
-TEST_F(DemandFormula, PromotionAndRatingAdd) {
-    m.demandbase = 10;
-    m.demandpromotion = 0.2;
-    m.demandrating = 0.3;
-    in.promoPoints = 40;
-    in.rating = 50;
-    EXPECT_DOUBLE_EQ(demand(), 10 + 8 + 15);
-}
-
-TEST_F(DemandFormula, ResultIsUnrounded) {
-    m.demandbase = 15;
-    m.demandpop = 0.6;
-    m.demandprice = 0.06;
-    in.popularity = 57;
-    in.price = 4.5;
-    EXPECT_NEAR(demand(), 15 + 34.2 - 27, 1e-9);
-}
-
-TEST_F(DemandFormula, ClampsToOneAndAHundred) {
-    m.demandbase = 0.5;
-    EXPECT_EQ(demand(), 1);
-    m.demandbase = -40;
-    EXPECT_EQ(demand(), 1);
-    m.demandbase = 100.5;
-    EXPECT_EQ(demand(), 100);
-    m.demandbase = 1;
-    EXPECT_EQ(demand(), 1);
-    m.demandbase = 99.75;
-    EXPECT_EQ(demand(), 99.75);
-}
-
-TEST_F(DemandFormula, DuplicateCutIsFlooredBeforeItIsMultiplied) {
-    m.demandbase = 57;
-    m.demanddupe = 15;
-    in.duplicates = 2;
-    // cut = Int(8.55) = 8; two other showings take 16. (Multiplying first would take 17.1.)
-    EXPECT_DOUBLE_EQ(demand(), 41);
-    in.duplicates = 0;
-    EXPECT_DOUBLE_EQ(demand(), 57);
-}
-
-TEST_F(DemandFormula, DuplicatesWorkOnTheWholeRunningDemand) {
-    // The cut comes last, on everything before it, the rating included.
-    m.demandbase = 30;
-    m.demandrating = 1;
-    m.demanddupe = 50;
-    in.rating = 20;
-    in.duplicates = 1;
-    EXPECT_DOUBLE_EQ(demand(), 25);
-}
-
-TEST_F(DemandFormula, NegativeDemandGivesANegativeCutThatRaisesIt) {
-    m.demandbase = -7;
-    m.demanddupe = 50;
-    in.duplicates = 3;
-    // cut = Int(-3.5) = -4 (away from zero), D = -7 + 12 = 5.
-    EXPECT_DOUBLE_EQ(demand(), 5);
-    in.duplicates = 1;
-    EXPECT_EQ(demand(), 1); // -7 + 4 = -3, clamped
-}
-
-TEST_F(DemandFormula, DuplicateProductIs16Bit) {
     m.demandbase = 100;
-    m.demanddupe = 32000;
-    in.duplicates = 7; // cut 32000, 7 * 32000 does not fit
-    EXPECT_THROW(demand(), GameError);
+    EXPECT_THROW(demandPercent(m, inputs(0, 0, 9, 0, 0, 0)), GameError);
+    m.demanddupe = 32000; // cut 32000: 7 of them do not fit 16 bits
+    EXPECT_THROW(demandPercent(m, inputs(0, 0, 4, 0, 0, 7)), GameError);
 }
 
-TEST(TicketSale, SeniorsSplitOffWhileTheyPayLessThanMatinee) {
-    const std::array<double, 3> prices{6, 4.5, 4};
-    const TicketSale standard = splitTicketSale(100, false, prices, 15);
-    EXPECT_EQ(standard.seniors, 15);
-    EXPECT_EQ(standard.regular, 85);
-    EXPECT_DOUBLE_EQ(standard.income, 85 * 6 + 15 * 4);
-    const TicketSale matinee = splitTicketSale(100, true, prices, 15);
-    EXPECT_DOUBLE_EQ(matinee.income, 85 * 4.5 + 15 * 4);
-}
-
-TEST(TicketSale, SeniorPriceAtTheMatineePriceMeansNoSeniors) {
-    const TicketSale sale = splitTicketSale(100, false, {6, 4.5, 4.5}, 15);
-    EXPECT_EQ(sale.seniors, 0);
-    EXPECT_DOUBLE_EQ(sale.income, 600);
-    // Tested against the matinee price, not the standard one: a senior price above the
-    // standard price still splits while it is below the matinee price.
-    const TicketSale dear = splitTicketSale(100, false, {3, 5, 4}, 10);
-    EXPECT_EQ(dear.seniors, 10);
-    EXPECT_DOUBLE_EQ(dear.income, 90 * 3 + 10 * 4);
-}
-
-TEST(TicketSale, SeniorShareIsFloored) {
-    const TicketSale sale = splitTicketSale(13, false, {6, 4.5, 4}, 15);
-    EXPECT_EQ(sale.seniors, 1); // Int(1.95)
-    EXPECT_EQ(sale.regular, 12);
-}
-
-TEST(TicketSale, TicketsTimesPercentIs16Bit) {
-    EXPECT_THROW(splitTicketSale(3000, false, {6, 4.5, 4}, 15), GameError);
-    EXPECT_NO_THROW(splitTicketSale(3000, false, {6, 4.5, 4.5}, 15)); // no split, no product
+TEST(TicketSale, Table) {
+    struct Row {
+        const char* what;
+        int tickets;
+        bool matinee;
+        std::array<double, 3> prices;
+        int percentseniors, seniors;
+        double income;
+    };
+    const Row rows[] = {
+        {"seniors split off", 100, false, {6, 4.5, 4}, 15, 15, 85 * 6 + 15 * 4},
+        {"at a matinee", 100, true, {6, 4.5, 4}, 15, 15, 85 * 4.5 + 15 * 4},
+        {"senior price at the matinee price", 100, false, {6, 4.5, 4.5}, 15, 0, 600},
+        // Tested against the matinee price, not the standard one.
+        {"dearer than standard", 100, false, {3, 5, 4}, 10, 10, 90 * 3 + 10 * 4},
+        {"share floored", 13, false, {6, 4.5, 4}, 15, 1, 12 * 6 + 4},
+        {"no split, no product", 3000, false, {6, 4.5, 4.5}, 15, 0, 18000},
+    };
+    for (const Row& r : rows) {
+        const TicketSale sale = splitTicketSale(r.tickets, r.matinee, r.prices, r.percentseniors);
+        EXPECT_EQ(sale.seniors, r.seniors) << r.what;
+        EXPECT_EQ(sale.regular, r.tickets - r.seniors) << r.what;
+        EXPECT_DOUBLE_EQ(sale.income, r.income) << r.what;
+    }
+    EXPECT_THROW(splitTicketSale(3000, false, {6, 4.5, 4}, 15), GameError); // 3000 * 15
 }

@@ -30,37 +30,18 @@ struct MovieFixture : ::testing::Test {
     void setUpWith(const std::string& movies) {
         dir.write("movies.lst", movies);
         tg = std::make_unique<TestGame>(dir.path().string(), 11);
-        MathVars& m = math();
-        m.moviemaxprice = 10000;
-        m.moviepopdropdays = 7;
-        m.moviepopdrop = 8;
-        m.movieclassicmin = 5;
-        m.movieclassicmax = 10;
-        m.movieminreleases = 3;
-        m.moviemaxreleases = 1;
-        m.movieminpop = 1;
-        m.moviemaxpop = 100;
-        m.resalemin = 250;
-        m.inflation = 3;
-        m.showtimes = 8;
-        m.showtimename = {"", "10 AM", "Noon", "2 PM", "4 PM", "6 PM", "8 PM", "10 PM", "Midnight"};
-        m.showtimeadincome = 15;
-        m.showtimeadsmaxtotal = 24;
-        m.showtimeadsmax = 5;
-        m.showtimeadpop = 2;
-        m.ticketsstandard = 6;
-        m.ticketsmatinee = 4.5;
-        m.ticketsseniors = 4;
-        m.percentseniors = 15;
-        m.percentarcade = 0;
-        m.percentconcessions = 0;
-        m.demandbase = 15;
-        m.demandprice = 0.06;
-        m.demandshowtime = {0, -6, -4, -2, 0, 8, 12, 6, -4};
-        m.demandpromotion = 0.2;
-        m.demandrating = 0.3;
-        m.demandpop = 0.6;
-        m.demanddupe = 12;
+        tg->math("moviemaxprice=10000; moviepopdropdays=7; moviepopdrop=8; movieclassicmin=5;"
+                 "movieclassicmax=10; movieminreleases=3; moviemaxreleases=1; movieminpop=1;"
+                 "moviemaxpop=100; resalemin=250; inflation=3; showtimes=8;"
+                 "showtimename1=10 AM; showtimename2=Noon; showtimename3=2 PM; showtimename4=4 PM;"
+                 "showtimename5=6 PM; showtimename6=8 PM; showtimename7=10 PM;"
+                 "showtimename8=Midnight; showtimeadincome=15; showtimeadsmaxtotal=24;"
+                 "showtimeadsmax=5; showtimeadpop=2; ticketsstandard=6; ticketsmatinee=4.5;"
+                 "ticketsseniors=4; percentseniors=15; percentarcade=0; percentconcessions=0;"
+                 "demandbase=15; demandprice=0.06; demandshowtime1=-6; demandshowtime2=-4;"
+                 "demandshowtime3=-2; demandshowtime4=0; demandshowtime5=8; demandshowtime6=12;"
+                 "demandshowtime7=6; demandshowtime8=-4; demandpromotion=0.2; demandrating=0.3;"
+                 "demandpop=0.6; demanddupe=12");
         g().finances.setFunds(100000);
         mm().initShowtimes();
         mm().loadMovieList();

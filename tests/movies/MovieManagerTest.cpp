@@ -386,3 +386,60 @@ TEST_F(Booker, InflationReachesOwnedTitlesThroughTheCatalogue) {
     EXPECT_EQ(mm().myMovieAt(1).getFirstPrice(), 5000);
     EXPECT_DOUBLE_EQ(mm().catalogueMovie(2).getMyPrice(), other * 1.03);
 }
+
+// ---------------------------------------------------------------- saved games
+
+namespace {
+
+std::string savedMovies(MovieManager& mm) {
+    std::ostringstream text;
+    LineWriter out(text);
+    mm.saveMovies(out);
+    return text.str();
+}
+
+// The container has read the open tag: the reader starts on the next line.
+void loadSection(const std::string& text, void (MovieManager::*load)(LineReader&),
+                 MovieManager& mm) {
+    std::istringstream in(text.substr(text.find('\n') + 1));
+    LineReader reader(in, "test.zvn");
+    (mm.*load)(reader);
+}
+
+} // namespace
+
+TEST_F(Booker, LoadedMoviesAreNewObjectsWithoutTodaysSales) {
+    g().building.seating = 150;
+    own({1});
+    book(1, {3});
+    mm().showtimeAt(3).doBusiness();
+    EXPECT_TRUE(mm().sharesObject(1, 1));
+    const double income = mm().myMovieAt(1).getMyIncome();
+    ASSERT_GT(mm().myMovieAt(1).getMySold(), 0);
+    loadSection(savedMovies(mm()), &MovieManager::loadMovies, mm());
+    EXPECT_FALSE(mm().sharesObject(1, 1));
+    EXPECT_EQ(mm().myMovieAt(1).getMyIncome(), income);
+    EXPECT_EQ(mm().myMovieAt(1).getMySold(), 0); // not in the file
+    // A later release of the same title brings the catalogue's object, not the loaded one.
+    offer({1});
+    EXPECT_NE(&mm().buyMovieAt(1), &mm().myMovieAt(1));
+}
+
+TEST_F(Booker, UnsetShowtimesSaveNumberZeroAndFailTheLoad) {
+    // Showtimes beyond `showtimes` were never set up: they write their own number, 0, and no
+    // name. Reading them back names showtime 0, which does not exist: the load stops there.
+    math().showtimes = 6;
+    MovieManager fresh(g());
+    fresh.initShowtimes();
+    std::ostringstream text;
+    LineWriter out(text);
+    fresh.saveShowtimes(out);
+    EXPECT_NE(text.str().find("</showtime>\r\n<showtime num=0>\r\nmatinee=0\r\nmovie= 0\r\n"
+                              "todaysticketsales= 0\r\ntodaysincome= 0\r\nads= 0\r\nname=\r\n"
+                              "</showtime>\r\n<showtime num=0>"),
+              std::string::npos)
+        << text.str();
+    fresh.showtimeAt(6).setName("changed");
+    EXPECT_THROW(loadSection(text.str(), &MovieManager::loadShowtimes, fresh), GameError);
+    EXPECT_EQ(fresh.showtimeAt(6).getName(), "8 PM"); // read before the failure
+}

@@ -83,20 +83,6 @@ TEST_F(Shows, DemandReactsToTheRolledPrice) {
     EXPECT_NEAR(senior - standard, 0.06 * (6 - 4) * 100, 1e-9);
 }
 
-TEST_F(Shows, DemandOfTheManagerMatchesTheFormula) {
-    g().rating.currentRating = 55;
-    book(1, {5, 6});
-    mm().setShowtimeAds(5, 3);
-    g().rng.force(standardRoll);
-    DemandInputs in;
-    in.popularity = 44;
-    in.price = 6;
-    in.showtime = 5;
-    in.rating = 55;
-    in.duplicates = 1;
-    EXPECT_DOUBLE_EQ(mm().getDemand(5), demandPercent(math(), in));
-}
-
 TEST_F(Shows, TodaysShowSellsDemandTimesSeatsAndPaysTheAds) {
     book(1, {5});
     mm().setShowtimeAds(5, 2);

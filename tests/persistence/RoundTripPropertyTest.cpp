@@ -5,7 +5,7 @@
 #include "Simulator.h"
 #include "StateJson.h"
 #include "core/GameError.h"
-#include "persistence/SessionPorts.h"
+#include "persistence/SavedFile.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

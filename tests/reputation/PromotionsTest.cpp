@@ -39,12 +39,6 @@ struct PromoFixture : ::testing::Test {
         for (int i = 0; i < times; ++i)
             promos().addPromo(medium);
     }
-    std::string saved() {
-        std::ostringstream out;
-        LineWriter w(out);
-        promos().savePromotions(w);
-        return out.str();
-    }
 };
 
 } // namespace
@@ -171,42 +165,4 @@ TEST_F(PromoFixture, PointSumOverflowIsFatal) {
     game->math.promomax = 1e9;
     promos().addPromo(4);
     EXPECT_THROW(promos().addPromo(4), GameError); // 40000 points
-}
-
-TEST_F(PromoFixture, SectionSaveLoadSame) {
-    add(2, 3);
-    add(0, 1);
-    promos().promosNextYear();
-    const std::string text = saved();
-    EXPECT_EQ(text.substr(0, 54), "<promotions>\r\nrunning 0=1\r\ncost 0=18.54\r\nrunning 1=0\r\n");
-    EXPECT_EQ(text.substr(text.size() - 15), "</promotions>\r\n");
-
-    TempDir otherDir;
-    TestGame other(otherDir.path().string());
-    other->math = game->math;
-    other->promos.promosSetup();
-    std::istringstream in(text);
-    LineReader reader(in, "test.zvn");
-    other->promos.loadPromotions(reader);
-    std::ostringstream again;
-    LineWriter w(again);
-    other->promos.savePromotions(w);
-    EXPECT_EQ(again.str(), text); // the grown costs, not the math file's
-    EXPECT_EQ(other->promos.totalPoints(), 19);
-}
-
-TEST_F(PromoFixture, SectionReaderQuirks) {
-    std::istringstream in("RUNNING 3=2.5\r\n" // ties to even
-                          "Cost 4=99.5abc\r\n"
-                          "running 5=7\r\n" // no such medium
-                          "running3=9\r\n"  // the blank is part of the key
-                          "</promotions>\r\n"
-                          "running 0=4\r\n");
-    LineReader reader(in, "test.zvn");
-    promos().loadPromotions(reader);
-    EXPECT_EQ(promos().promoRunning[3], 2);
-    EXPECT_EQ(promos().promoCost[4], 99.5);
-    EXPECT_EQ(promos().promoRunning[0], 0);
-    // The reader ends with showPromotions, which takes the loaded total for the cap.
-    EXPECT_EQ(promos().totalPoints(), 20);
 }

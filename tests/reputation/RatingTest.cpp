@@ -1,4 +1,3 @@
-#include "Simulator.h"
 #include "core/GameError.h"
 #include "core/LineReader.h"
 #include "reputation/reputationTexts.h"
@@ -7,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <sstream>
 
 using namespace zorvane;
@@ -36,12 +34,6 @@ struct RatingFixture : ::testing::Test {
     void qualities(int q) {
         for (int i = 0; i < 5; ++i)
             (*game)->concessions.setItemQuality(i, q);
-    }
-    std::string saved() {
-        std::ostringstream out;
-        LineWriter w(out);
-        rating().saveRatings(w);
-        return out.str();
     }
 };
 
@@ -138,84 +130,4 @@ TEST_F(RatingFixture, MonthEndTakesTheRatingOfTheDayBefore) {
     EXPECT_EQ(rating().history[0], 1);      // the rating of the day before
     EXPECT_EQ(rating().currentRating, 100); // the day's own rating came after
     EXPECT_EQ(rating().currentAverage, 50); // from 0 again
-}
-
-TEST_F(RatingFixture, SectionSaveLoadSame) {
-    rating().currentRating = 64;
-    rating().currentAverage = 31;
-    rating().history[0] = 5;
-    rating().history[11] = 100;
-    const std::string text = saved();
-    EXPECT_EQ(text.substr(0, 53), "<ratings>\r\ncurrentAverage= 31\r\ncurrentRating= 64\r\nhis");
-    EXPECT_NE(text.find("\r\nhistory(0)= 5\r\nhistory(1)= 0\r\n"), std::string::npos);
-    EXPECT_EQ(text.substr(text.size() - 30), "history(11)= 100\r\n</ratings>\r\n");
-
-    rating().currentRating = 1;
-    rating().history[0] = 0;
-    (*game)->calendar.currentmonth = 0;
-    std::istringstream in(text);
-    LineReader reader(in, "test.zvn");
-    rating().loadRatings(reader);
-    EXPECT_EQ(saved(), text);
-    EXPECT_EQ(ratingCaption(rating()), "64 %");
-    EXPECT_EQ(rating().bars()[11].height, 720);
-    EXPECT_EQ(rating().bars()[11].colour, 0x80FFFFu); // later than the current month
-    EXPECT_EQ(rating().bars()[0].colour, 0x00C000u);
-    EXPECT_EQ(rating().bars()[0].tip, "5%");
-}
-
-TEST_F(RatingFixture, SectionReaderQuirks) {
-    std::istringstream in("CURRENTRATING=250\r\n" // not clamped
-                          "History(3.5)=12\r\n"   // index ties to even: 4
-                          "historyx(2)=9\r\n"     // the first seven letters decide
-                          "currentaverage=-3\r\n"
-                          "</ratings>\r\n");
-    LineReader reader(in, "test.zvn");
-    rating().loadRatings(reader);
-    EXPECT_EQ(rating().currentRating, 250);
-    EXPECT_EQ(rating().history[4], 12);
-    EXPECT_EQ(rating().history[2], 9);
-    EXPECT_EQ(rating().currentAverage, -3);
-    EXPECT_NE(saved().find("currentAverage=-3\r\n"), std::string::npos);
-
-    std::istringstream bad("history(12)=1\r\n</ratings>\r\n");
-    LineReader badReader(bad, "test.zvn");
-    EXPECT_THROW(rating().loadRatings(badReader), GameError);
-}
-
-TEST(PromoScript, CommandsAndState) {
-    DataFolder data;
-    std::ostringstream out;
-    sim::SimOptions options;
-    options.dataDir = data.path().string();
-    options.seed = 2;
-    options.quiet = true;
-    sim::Simulator simulator(options, out);
-    simulator.startup();
-    Game& game = simulator.game();
-    const int cap = static_cast<int>(game.math.promomax);
-    simulator.runLine("promo add 4", 1);
-    simulator.runLine("promo add 4", 2);
-    simulator.runLine("promo add 0", 3);
-    simulator.runLine("promo drop 4", 4);
-    EXPECT_EQ(game.promos.promoRunning[4], 1);
-    EXPECT_EQ(game.promos.promoRunning[0], 1);
-    EXPECT_THROW(simulator.runLine("promo add 5", 5), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo add", 6), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo buy 1", 7), sim::ScriptError);
-    EXPECT_THROW(simulator.runLine("promo dropall 1", 8), sim::ScriptError);
-
-    simulator.runLine("state", 9);
-    const auto state = nlohmann::json::parse(out.str());
-    ASSERT_EQ(state["promotions"]["running"].size(), 5u);
-    EXPECT_EQ(state["promotions"]["running"][4], 1);
-    EXPECT_EQ(state["promotions"]["cost"][4], game.promos.promoCost[4]);
-    EXPECT_EQ(state["promotions"]["points"], game.math.promo[4] + game.math.promo[0]);
-    EXPECT_EQ(state["rating"]["currentRating"], static_cast<int>(game.rating.currentRating));
-    EXPECT_EQ(state["rating"]["currentAverage"], static_cast<int>(game.rating.currentAverage));
-    ASSERT_EQ(state["rating"]["history"].size(), 12u);
-
-    simulator.runLine("promo dropall", 10);
-    EXPECT_EQ(game.promos.pointsNow(), 0);
-    EXPECT_GT(cap, 0);
 }

@@ -12,33 +12,20 @@
 
 namespace zorvane::test {
 
-// The staff's math, set by hand so that each test knows every number it depends on.
-inline void setStaffMath(MathVars& m) {
-    m.minwage = 5.15;
-    m.empposname = {
-        "None",          "Janitor",           "Usher",  "Concessions Clerk", "Ticket Seller",
-        "Projectionist", "Assistant Manager", "Manager"};
-    m.empposition = {0, 5.5, 6, 6.5, 7.25, 8.25, 10, 13};
-    m.empraisemonths = 12;
-    m.empraisemin = 0.25;
-    m.emptraining = 1000;
-    m.empexpsave = 700;
-    m.emprelchance = 10;
-    m.empambchance = 5;
-    m.empexpchance = 5;
-    m.empexpoverlimit = 1;
-    m.empangrynowork = 10;
-    m.empangryoverqualified = 20;
-    m.empangrynopay = 25;
-    m.empangryquit = 100;
-    m.empangrycalmdown = 2;
-    m.empprobation = 1000; // no learning or anger unless a test says so
-    m.empoverqualifiedquitchance = 20;
-    m.emphours = 16;
-    m.empvinnycost = 150;
-    m.empstatname = {"",       "Terrible", "Awful", "Poor",      "Mediocre", "Average",
-                     "Decent", "Good",     "Great", "Excellent", "Superb"};
-}
+// The staff's math, as each test knows it. Probation is long: no learning or anger unless a
+// test says so.
+inline const char* const staffMath =
+    "minwage=5.15; emppos0name=None; emppos1name=Janitor; emppos2name=Usher;"
+    "emppos3name=Concessions Clerk; emppos4name=Ticket Seller; emppos5name=Projectionist;"
+    "emppos6name=Assistant Manager; emppos7name=Manager; empposition1=5.5; empposition2=6;"
+    "empposition3=6.5; empposition4=7.25; empposition5=8.25; empposition6=10;"
+    "empposition7=13; empraisemonths=12; empraisemin=0.25; emptraining=1000; empexpsave=700;"
+    "emprelchance=10; empambchance=5; empexpchance=5; empexpoverlimit=1; empangrynowork=10;"
+    "empangryoverqualified=20; empangrynopay=25; empangryquit=100; empangrycalmdown=2;"
+    "empprobation=1000; empoverqualifiedquitchance=20; emphours=16; empvinnycost=150;"
+    "empstat1name=Terrible; empstat2name=Awful; empstat3name=Poor; empstat4name=Mediocre;"
+    "empstat5name=Average; empstat6name=Decent; empstat7name=Good; empstat8name=Great;"
+    "empstat9name=Excellent; empstat10name=Superb";
 
 // Twelve different candidates, one for each place a test may draw.
 inline std::string twelveCandidates() {
@@ -82,7 +69,7 @@ class StaffTest : public ::testing::Test {
 
     void SetUp() override {
         dir.write("employees.cfg", twelveCandidates());
-        setStaffMath(g.math);
+        tg.math(staffMath);
         staff.positionsSetup();
         g.finances.funds = 100000;
         tg.screen.lines.clear();

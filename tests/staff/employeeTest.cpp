@@ -246,56 +246,6 @@ TEST_F(EmployeeTest, APersonWithoutAFaceGetsOneWhenDrawnAndKeepsIt) {
 
 // ---------------------------------------------------------------- the saved block
 
-TEST_F(EmployeeTest, TheBlockIsWrittenLineByLine) {
-    setStaff({{"Ann Able", 3, 7, 2, 4, 6, 11, 12}});
-    employee& e = emp(1);
-    e.angerreason = "Content";
-    e.trainingcost = 700.5;
-    e.paid = 1234.25;
-    e.myPicSkin = 2;
-    e.myPicGlasses = 3;
-    e.myPicHair = 5;
-    std::ostringstream out;
-    LineWriter w(out);
-    EXPECT_TRUE(e.saveSelf(w));
-    EXPECT_EQ(out.str(), "<employee>\r\nnum= 1\r\nname=Ann Able\r\nexp= 3\r\nrel= 4\r\namb= 7\r\n"
-                         "anger= 6\r\nangerreason=Content\r\njob= 2\r\ntrainingcost= 700.5\r\n"
-                         "seniority= 0\r\npaid= 1234.25\r\nsickdays= 0\r\ndaysworked= 11\r\n"
-                         "daysemployed= 12\r\nfillingin=0\r\nmyPicSkin=2\r\nmyPicGlasses=3\r\n"
-                         "myPicHair=5\r\n</employee>\r\n");
-}
-
-TEST_F(EmployeeTest, LoadingTakesTheLoadersNumberAndPutsThePersonIntoTheJob) {
-    employee e(g);
-    std::istringstream in("num= 9\r\nNAME=Zed = Zimmer\r\nexp=2.5\r\nJob= 3\r\nsomething=1\r\n"
-                          "fillingin=-1\r\ndaysworked=70000\r\nnoequals\r\n=5\r\n</employee>\r\n"
-                          "after=1\r\n");
-    LineReader r(in, "test");
-    e.loadSelf(r, 4);
-    EXPECT_EQ(e.num, 4);
-    EXPECT_EQ(e.name, "Zed = Zimmer");
-    EXPECT_EQ(e.exp, 2); // 2.5 rounds to even
-    EXPECT_EQ(e.job, 3);
-    EXPECT_FALSE(e.fillingin); // only exactly 1 is true
-    EXPECT_EQ(e.daysworked, 70000);
-    EXPECT_EQ(holder(3), 4);
-    std::string next;
-    ASSERT_TRUE(r.readLine(next));
-    EXPECT_EQ(next, "after=1"); // the block's end was consumed, nothing more
-}
-
-TEST_F(EmployeeTest, AJobBeyondTheSeventhPostIsABoundsErrorOnLoad) {
-    employee e(g);
-    std::istringstream in("job=8\r\n</employee>\r\n");
-    LineReader r(in, "test");
-    try {
-        e.loadSelf(r, 1);
-        FAIL() << "a job of 8 loaded";
-    } catch (const GameError& err) {
-        EXPECT_EQ(err.kind(), GameError::Kind::Bounds);
-    }
-}
-
 TEST_F(EmployeeTest, AngerPastSixteenBitsIsAnOverflow) {
     setStaff({{"Ann Able", 1, 5, 1, 10, 32760}});
     g.math.empangrynopay = 25;

@@ -126,7 +126,7 @@ TEST_F(CfgTest, ThePoolStopsAt32767WithAMessageOnTheNextLine) {
 TEST(ShippedCandidates, LoadWithoutAMessageAndHoldTenDifferentNames) {
     DataFolder data;
     TestGame tg(data.path().string());
-    setStaffMath(tg->math);
+    tg.math(staffMath);
     tg->employees.loadEmployeeDatabase();
     EXPECT_TRUE(tg.screen.lines.empty());
     std::set<std::string> names;

@@ -13,18 +13,6 @@ const char* clampLine = "Cannot set wage below minimum wage, so set wage to mini
 
 class PositionTest : public StaffTest {};
 
-// An input box that records what it was asked.
-class RecordingDialogs : public ScriptedDialogs {
-  public:
-    std::string prompt, title, defaultText;
-    std::string input(const std::string& p, const std::string& t, const std::string& d) override {
-        prompt = p;
-        title = t;
-        defaultText = d;
-        return ScriptedDialogs::input(p, t, d);
-    }
-};
-
 } // namespace
 
 TEST_F(PositionTest, AWageBelowTheMinimumIsRaisedToItWithAMessage) {
@@ -53,20 +41,12 @@ TEST_F(PositionTest, OpeningWagesBelowTheMinimumAreClampedAtStartUp) {
 }
 
 TEST_F(PositionTest, TheInputBoxAsksForTheWageOfThePost) {
-    TempDir folder;
-    RecordingDialogs dialogs;
-    GameSetup setup;
-    setup.folder = folder.path().string();
-    setup.dialogs = &dialogs;
-    Game game(setup);
-    setStaffMath(game.math);
-    game.employees.positionsSetup();
-    dialogs.inputs.push_back("8.75");
-    game.employees.getPosition(4).setWageInput();
-    EXPECT_EQ(dialogs.prompt, "Enter new wage for position of Ticket Seller");
-    EXPECT_EQ(dialogs.title, "Set position wage");
-    EXPECT_EQ(dialogs.defaultText, "7.25");
-    EXPECT_EQ(game.employees.getPosition(4).getWage(), 8.75);
+    tg.dialogs.inputs.push_back("8.75");
+    staff.getPosition(4).setWageInput();
+    EXPECT_EQ(tg.dialogs.prompt, "Enter new wage for position of Ticket Seller");
+    EXPECT_EQ(tg.dialogs.title, "Set position wage");
+    EXPECT_EQ(tg.dialogs.defaultText, "7.25");
+    EXPECT_EQ(staff.getPosition(4).getWage(), 8.75);
 }
 
 TEST_F(PositionTest, WhatThePlayerTypesIsReadAsItsLeadingNumber) {
@@ -91,42 +71,6 @@ TEST_F(PositionTest, WhatThePlayerTypesIsReadAsItsLeadingNumber) {
     EXPECT_EQ(post.getWage(), 11);
     EXPECT_NE(std::find(tg.screen.refreshed.begin(), tg.screen.refreshed.end(), View::Positions),
               tg.screen.refreshed.end());
-}
-
-TEST_F(PositionTest, TheBlockHoldsTheWageOnly) {
-    staff.getPosition(6).setWage(10.5);
-    std::ostringstream out;
-    LineWriter w(out);
-    staff.getPosition(6).saveSelf(w);
-    EXPECT_EQ(out.str(), "<position>\r\nwage= 10.5\r\n</position>\r\n");
-}
-
-TEST_F(PositionTest, LoadedWagesAreTakenAsTheyStandBelowTheMinimum) {
-    std::istringstream in("<position>\r\nWAGE=1.5\r\n</position>\r\n<position>\r\nx=1\r\n"
-                          "wage=$3\r\n</position>\r\n</positions>\r\nrest\r\n");
-    LineReader r(in, "test");
-    staff.loadPositions(r);
-    EXPECT_EQ(staff.getPosition(1).getWage(), 1.5);
-    EXPECT_EQ(staff.getPosition(2).getWage(), 0); // "$3" has no leading number
-    EXPECT_EQ(staff.getPosition(3).getWage(), 6.5);
-    EXPECT_EQ(logged(clampLine), 0);
-    std::string next;
-    ASSERT_TRUE(r.readLine(next));
-    EXPECT_EQ(next, "rest");
-}
-
-TEST_F(PositionTest, ABlockPastTheSeventhPostIsABoundsError) {
-    std::string text;
-    for (int i = 0; i < 8; ++i)
-        text += "<position>\r\nwage= 9\r\n</position>\r\n";
-    std::istringstream in(text + "</positions>\r\n");
-    LineReader r(in, "test");
-    try {
-        staff.loadPositions(r);
-        FAIL() << "eight position blocks loaded";
-    } catch (const GameError& e) {
-        EXPECT_EQ(e.kind(), GameError::Kind::Bounds);
-    }
 }
 
 TEST_F(PositionTest, ADaysPayIsSixteenHoursWhateverEmphoursSays) {

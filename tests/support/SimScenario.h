@@ -13,10 +13,36 @@
 
 namespace zorvane::test {
 
+// One thing a table row expects of the game's state (as the simulator's `state` prints it):
+// the value at a JSON pointer; with a pointer ending in '#' the size of that list; with an
+// expected null the value the state had before the row ran.
+struct Check {
+    std::string pointer;
+    nlohmann::json expected;
+};
+
+inline void expectChecks(const nlohmann::json& before, const nlohmann::json& after,
+                         const std::vector<Check>& checks) {
+    for (const Check& check : checks) {
+        std::string pointer = check.pointer;
+        const bool size = pointer.back() == '#';
+        if (size)
+            pointer.pop_back();
+        const nlohmann::json::json_pointer at(pointer);
+        ASSERT_TRUE(after.contains(at)) << pointer;
+        if (size) {
+            EXPECT_EQ(after.at(at).size(), check.expected.get<std::size_t>()) << pointer;
+        } else {
+            EXPECT_EQ(after.at(at), check.expected.is_null() ? before.at(at) : check.expected)
+                << pointer;
+        }
+    }
+}
+
 // A whole game on a copy of the shipped data, after start-up and "Play !", driven by script
 // lines exactly as zorvane-sim runs them.
 class SimScenario : public ::testing::Test {
-protected:
+  protected:
     DataFolder data;
     std::ostringstream out;
     std::unique_ptr<sim::Simulator> simulator;

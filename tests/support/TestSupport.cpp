@@ -1,5 +1,6 @@
 #include "support/TestSupport.h"
 
+#include <algorithm>
 #include <atomic>
 #include <fstream>
 #include <sstream>
@@ -37,7 +38,9 @@ std::string readFile(const std::string& path) {
     return ss.str();
 }
 
-std::string shippedData() { return ZORVANE_SOURCE_DATA; }
+std::string shippedData() {
+    return ZORVANE_SOURCE_DATA;
+}
 
 DataFolder::DataFolder() {
     for (const auto& entry : fs::directory_iterator(shippedData())) {
@@ -74,7 +77,30 @@ std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
     return std::make_unique<Game>(std::move(setup));
 }
 
+int RecordingScreen::refreshes(View v) const {
+    return static_cast<int>(std::count(refreshed.begin(), refreshed.end(), v));
+}
+
 TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg)
     : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
+
+TestGame& TestGame::math(const std::string& entries) {
+    const fs::path path = fs::path(game->folder()) / "test-overrides.mth";
+    {
+        std::ofstream out(path, std::ios::binary);
+        bool lineStart = false; // blanks after a ';' are not part of the next key
+        for (char c : entries) {
+            if (lineStart && c == ' ')
+                continue;
+            lineStart = c == ';';
+            out << (lineStart ? '\n' : c);
+        }
+        out << '\n';
+    }
+    std::string p = path.string();
+    game->mathFile.loadMath(game->math, dialogs, p);
+    fs::remove(path);
+    return *this;
+}
 
 } // namespace zorvane::test

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/NullScreen.h"
 #include "session/Game.h"
 
 #include <filesystem>
@@ -41,37 +42,80 @@ class DataFolder : public TempDir {
     void setMath(std::initializer_list<std::pair<std::string, std::string>> entries) const;
 };
 
-// A game on a folder, with scripted dialogs and a log that records every line.
+// Ports that record everything the logic asks of them: log lines, the status box, views to
+// repaint, pictures, child screens brought to the front, and every question and file dialog.
 class RecordingScreen : public NullScreen {
   public:
     std::vector<std::string> lines;
     std::vector<std::string> status;
     std::vector<View> refreshed;
-    int loseShown = 0;
+    std::vector<int> modes;
+    std::vector<std::string> details; // the title screen's status box, replaced
+    int loseShown = 0, logClears = 0, goalPictures = 0, titleShown = 0;
+    bool visible = false; // the building screen
+
     void logLine(const std::string& line, bool cleared) override {
         if (cleared)
             lines.clear();
         lines.push_back(line);
     }
+    void logCleared() override {
+        ++logClears;
+        lines.clear();
+    }
     void titleStatus(const std::string& line) override { status.push_back(line); }
     void refresh(View v) override { refreshed.push_back(v); }
     void showLose(LoseReason) override { ++loseShown; }
+    void switchMode(int mode) override { modes.push_back(mode); }
+    bool buildingVisible() const override { return visible; }
+    void showGoal() override { ++goalPictures; }
+    void showTitle() override { ++titleShown; }
+    void titleDetails(const std::string& text) override { details.push_back(text); }
     int count(const std::string& line) const;
+    int refreshes(View v) const;
 };
 
-// A game in `folder` on the given ports, started as the program would be with `arg` as its
+struct RecordingDialogs : ScriptedDialogs {
+    std::vector<Buttons> buttons;           // of each message box, in order
+    std::vector<FileMode> fileModes;        // of each file dialog, in order
+    std::vector<std::string> filters;       // of each file dialog
+    std::string prompt, title, defaultText; // of the last input box
+    Answer ask(const std::string& text, Buttons b) override {
+        buttons.push_back(b);
+        return ScriptedDialogs::ask(text, b);
+    }
+    std::string chooseFile(FileMode mode, const std::string& filter,
+                           const std::string& caption) override {
+        fileModes.push_back(mode);
+        filters.push_back(filter);
+        return ScriptedDialogs::chooseFile(mode, filter, caption);
+    }
+    std::string input(const std::string& p, const std::string& t, const std::string& d) override {
+        prompt = p;
+        title = t;
+        defaultText = d;
+        return ScriptedDialogs::input(p, t, d);
+    }
+};
+
+// A game in `folder` on recording ports, started as the program would be with `arg` as its
 // one command-line argument.
 std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
                                const std::string& arg, ScreenPort& screen, DialogPort& dialogs,
                                SettingsPort& settings);
 
+// The one game of the tests. A test that needs no data files sets the math it depends on with
+// `math`, in math.txt's own lines (read by the game's math reader); entries may also be
+// separated by ';'.
 struct TestGame {
     RecordingScreen screen;
-    ScriptedDialogs dialogs;
+    RecordingDialogs dialogs;
     MemorySettings settings;
     std::unique_ptr<Game> game;
 
-    TestGame(const std::string& folder, std::uint64_t seed = 1, const std::string& arg = "");
+    explicit TestGame(const std::string& folder, std::uint64_t seed = 1,
+                      const std::string& arg = "");
+    TestGame& math(const std::string& entries);
     Game* operator->() { return game.get(); }
     Game& operator*() { return *game; }
 };

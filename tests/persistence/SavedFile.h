@@ -1,6 +1,5 @@
 #pragma once
-// A game whose ports record what the file menu and the goals ask of them: the buttons of
-// each question, the file dialogs, the log box being emptied, the pictures.
+// Saved games taken apart: their lines, their sections, and the part a load brings back.
 #include "core/LineReader.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
@@ -13,49 +12,6 @@
 #include <vector>
 
 namespace zorvane::test {
-
-struct PortDialogs : ScriptedDialogs {
-    std::vector<Buttons> buttons;     // of each message box, in order
-    std::vector<FileMode> fileModes;  // of each file dialog, in order
-    std::vector<std::string> filters; // of each file dialog
-    Answer ask(const std::string& text, Buttons b) override {
-        buttons.push_back(b);
-        return ScriptedDialogs::ask(text, b);
-    }
-    std::string chooseFile(FileMode mode, const std::string& filter,
-                           const std::string& title) override {
-        fileModes.push_back(mode);
-        filters.push_back(filter);
-        return ScriptedDialogs::chooseFile(mode, filter, title);
-    }
-};
-
-struct PortScreen : RecordingScreen {
-    int logClears = 0;
-    int goalPictures = 0;
-    int titleShown = 0;
-    std::vector<std::string> details; // the title screen's status box, replaced
-    void logCleared() override {
-        ++logClears;
-        lines.clear();
-    }
-    void showGoal() override { ++goalPictures; }
-    void showTitle() override { ++titleShown; }
-    void titleDetails(const std::string& text) override { details.push_back(text); }
-};
-
-struct PortGame {
-    PortScreen screen;
-    PortDialogs dialogs;
-    MemorySettings settings;
-    std::unique_ptr<Game> game;
-
-    explicit PortGame(const std::string& folder, std::uint64_t seed = 1,
-                      const std::string& arg = "")
-        : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
-    Game* operator->() { return game.get(); }
-    Game& operator*() { return *game; }
-};
 
 // The sections of a saved game, in file order: each open tag with its lines up to and with
 // its own close tag (nested blocks have other names, so they stay inside).
