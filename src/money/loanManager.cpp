@@ -293,7 +293,6 @@ void loanManager::loadLoans(LineReader& in) {
 }
 
 void loanManager::takeLoan(const std::string& amount, const std::string& payments) {
-    constexpr int enterKey = 13;
     typeAmount(amount);
     typePayPlan(payments);
     payPlanKeyPress(enterKey);
