@@ -43,9 +43,11 @@ run_tests clang build/clang
 cmake -S . -B build/sanitize -DCMAKE_BUILD_TYPE=Debug -DZORVANE_SANITIZE=ON \
       -DZORVANE_BENCH=OFF -DZORVANE_WERROR=ON >/dev/null
 cmake --build build/sanitize -j"$jobs"
-# Qt's font and platform libraries keep a few allocations for the life of the process.
+# Qt's font and platform libraries keep a few allocations for the life of the process
+# (tools/lsan-qt.supp); whole stacks of each allocation let those be told from ours.
 run_tests sanitize build/sanitize QT_QPA_PLATFORM=offscreen \
-    ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+    ASAN_OPTIONS=detect_leaks=1:abort_on_error=1:fast_unwind_on_malloc=0 \
+    UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     LSAN_OPTIONS=suppressions="$PWD/tools/lsan-qt.supp"
 
 printf '%s\n' "${summaries[@]}" "$final"
