@@ -38,10 +38,17 @@ GameWindows::GameWindows(WindowsSetup setup) {
               new frmConcessions(*game_, 0, main_.get()), new frmLoans(*game_, 0, main_.get()),
               new frmGraphs(*game_, 0, main_.get()),      new frmBuilding(*game_, 0, main_.get())};
     main_->setModeScreens(modes_);
+    auto* graphs = static_cast<frmGraphs*>(modes_[6]);
+    auto* building = static_cast<frmBuilding*>(modes_[7]);
+    screen_.addPainter(View::Graph, [graphs] { graphs->paintGraph(); });
+    screen_.addPainter(View::Building, [building] { building->paintBuilding(); });
+    screen_.onGraphVisible = [graphs] { return graphs->isVisible(); };
+    screen_.onBuildingVisible = [building] { return building->isVisible(); };
     around_ = std::make_unique<AroundScreens>(*game_, screen_, qtDialogs_, *main_,
                                               [this] { showMain(); });
     addScreenshots();
     around_->addScreenshots(shots_);
+    addModeScreenshots();
 }
 
 GameWindows::~GameWindows() = default;
@@ -73,6 +80,25 @@ void GameWindows::addScreenshots() {
         s.save(main_.get(), QStringLiteral("frmMain-expanded.png"));
         game_->expand("false");
         screen_.flush();
+    });
+}
+
+// The graph and the building, last: the year played for the graph changes every screen.
+void GameWindows::addModeScreenshots() {
+    shots_.add([this](Screenshots& s) {
+        game_->switchMode(6);
+        game_->graph.drawGraph();
+        screen_.flush();
+        s.save(modes_[6], QStringLiteral("frmGraphs.png"));
+        game_->switchMode(7);
+        game_->building.IamBroken = false;
+        game_->building.showBuilding();
+        screen_.flush();
+        s.save(modes_[7], QStringLiteral("frmBuilding.png"));
+        game_->building.IamBroken = true;
+        game_->building.showBuilding();
+        screen_.flush();
+        s.save(modes_[7], QStringLiteral("frmBuilding-broken.png"));
     });
 }
 

@@ -49,6 +49,7 @@ public:
 
 private:
     void addScreenshots();
+    void addModeScreenshots();
 
     QtScreen screen_;
     QtDialogs qtDialogs_;

@@ -1,14 +1,37 @@
 #pragma once
 #include "frame/ChildFrame.h"
 
+#include <array>
+
+class QGroupBox;
+class QLabel;
+
 namespace zorvane::screens {
 
-// The screen of mode 6: "Funds Graph (12 Month History)". For now its frame only (header, colour, glue); its
-// controls go into body().
+// The screen of mode 6: "Funds Graph (12 Month History)". The graph's state (where the
+// labels stand, the lines of the picture, the texts) is the game's; this screen only shows it.
+// A left click on a month label shows that month's funds in a box; there is no click sound
+// here and no hover text.
 class frmGraphs : public ChildFrame {
     Q_OBJECT
 public:
     frmGraphs(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
+
+    // Puts the last redraw on screen: labels, their places and the picture.
+    void paintGraph();
+
+protected:
+    bool event(QEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* picFundsGraph_;
+    std::array<QLabel*, 10> lblGrfFunds_{};
+    std::array<QLabel*, 12> lblGrfFundsMonth_{};
+    QGroupBox* frameFundsSummary_;
+    QLabel* lblFundsSummaryHigh_;
+    QLabel* lblFundsSummaryLow_;
+    QLabel* lblFundsSummaryCurrent_;
 };
 
 } // namespace zorvane::screens

@@ -1,0 +1,105 @@
+// The graph's month labels and the building's out-of-order sign, offscreen.
+#include "GameApplication.h"
+#include "GameWindows.h"
+#include "frame/ButtonLabel.h"
+#include "frame/ChildFrame.h"
+#include "frmBuilding.h"
+#include "frmGraphs.h"
+#include "ports/QtScreen.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTest>
+
+#include <memory>
+
+using namespace zorvane;
+using namespace zorvane::screens;
+
+namespace {
+void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button) {
+    const QPointF at(3, 3);
+    QMouseEvent e(type, at, w->mapToGlobal(at), button,
+                  type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button), Qt::NoModifier);
+    QApplication::sendEvent(w, &e);
+}
+} // namespace
+
+class GraphBuildingTest : public QObject {
+    Q_OBJECT
+
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    std::unique_ptr<GameWindows> w;
+
+private slots:
+    void init() {
+        dialogs = ScriptedDialogs();
+        static_cast<GameApplication*>(qApp)->onFatal = [](const QString& m) { qFatal("fatal: %s", qPrintable(m)); };
+        WindowsSetup setup;
+        setup.folder = ZORVANE_SOURCE_DATA;
+        setup.seed = 7;
+        setup.dialogs = &dialogs;
+        setup.settings = &settings;
+        w = std::make_unique<GameWindows>(setup);
+        w->startup();
+        w->game().startPlay(-1);
+        w->showMain();
+    }
+    void cleanup() { w.reset(); }
+
+    // Left down raises the month label without a click; the left release flattens it and asks
+    // the month's box; a right press and release do neither.
+    void monthLabelPressAndRelease() {
+        w->game().switchMode(6);
+        QVERIFY(w->screen().graphVisible());
+        w->game().graph.drawGraph();
+        w->screen().flush();
+        auto* month = w->modeScreen(6)->findChild<QLabel*>(QStringLiteral("lblGrfFundsMonth_11"));
+        QVERIFY(month);
+        int clicks = 0;
+        ButtonLabel::clickSound = [&clicks] { ++clicks; };
+
+        mouse(month, QEvent::MouseButtonPress, Qt::RightButton);
+        QCOMPARE(month->frameShadow(), QFrame::Plain);
+        mouse(month, QEvent::MouseButtonRelease, Qt::RightButton);
+        QVERIFY(dialogs.asked.empty());
+
+        mouse(month, QEvent::MouseButtonPress, Qt::LeftButton);
+        QCOMPARE(month->frameShadow(), QFrame::Raised);
+        QVERIFY(dialogs.asked.empty());
+        mouse(month, QEvent::MouseButtonRelease, Qt::LeftButton);
+        QCOMPARE(month->frameShape(), QFrame::NoFrame);
+        QCOMPARE(dialogs.asked.size(), std::size_t(1));
+        QVERIFY(QString::fromStdString(dialogs.asked[0]).startsWith(QStringLiteral("Funds for the month of ") + month->text()));
+        QCOMPARE(clicks, 0);
+        ButtonLabel::clickSound = nullptr;
+    }
+
+    // The sign stands over the house exactly while the building is broken.
+    void signFollowsBrokenFlag() {
+        Game& game = w->game();
+        game.switchMode(7);
+        QVERIFY(w->screen().buildingVisible());
+        auto* sign = w->modeScreen(7)->findChild<QLabel*>(QStringLiteral("imgOOO"));
+        QVERIFY(sign);
+        for (const bool broken : {true, false, true}) {
+            game.building.IamBroken = broken;
+            game.building.showBuilding();
+            w->screen().flush();
+            QCOMPARE(sign->isVisible(), broken);
+        }
+        game.building.repairBuilding();
+        w->screen().flush();
+        QCOMPARE(sign->isVisible(), game.building.IamBroken);
+    }
+};
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    GameApplication app(argc, argv);
+    GraphBuildingTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "GraphBuildingTest.moc"
