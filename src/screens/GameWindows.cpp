@@ -38,12 +38,8 @@ GameWindows::GameWindows(WindowsSetup setup) {
               new frmConcessions(*game_, 0, main_.get()), new frmLoans(*game_, 0, main_.get()),
               new frmGraphs(*game_, 0, main_.get()),      new frmBuilding(*game_, 0, main_.get())};
     main_->setModeScreens(modes_);
-    auto* graphs = static_cast<frmGraphs*>(modes_[6]);
-    auto* building = static_cast<frmBuilding*>(modes_[7]);
-    screen_.addPainter(View::Graph, [graphs] { graphs->paintGraph(); });
-    screen_.addPainter(View::Building, [building] { building->paintBuilding(); });
-    screen_.onGraphVisible = [graphs] { return graphs->isVisible(); };
-    screen_.onBuildingVisible = [building] { return building->isVisible(); };
+    for (ChildFrame* m : modes_)
+        m->attach(screen_);
     around_ = std::make_unique<AroundScreens>(*game_, screen_, qtDialogs_, *main_,
                                               [this] { showMain(); });
     addScreenshots();
@@ -83,23 +79,9 @@ void GameWindows::addScreenshots() {
     });
 }
 
-// The graph and the building, last: the year played for the graph changes every screen.
 void GameWindows::addModeScreenshots() {
-    shots_.add([this](Screenshots& s) {
-        game_->switchMode(6);
-        game_->graph.drawGraph();
-        screen_.flush();
-        s.save(modes_[6], QStringLiteral("frmGraphs.png"));
-        game_->switchMode(7);
-        game_->building.IamBroken = false;
-        game_->building.showBuilding();
-        screen_.flush();
-        s.save(modes_[7], QStringLiteral("frmBuilding.png"));
-        game_->building.IamBroken = true;
-        game_->building.showBuilding();
-        screen_.flush();
-        s.save(modes_[7], QStringLiteral("frmBuilding-broken.png"));
-    });
+    for (ChildFrame* m : modes_)
+        m->addScreenshots(shots_);
 }
 
 } // namespace zorvane::screens

@@ -2,9 +2,11 @@
 
 #include "building/buildingTexts.h"
 #include "frame/ButtonLabel.h"
+#include "Screenshots.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
+#include "ports/QtScreen.h"
 #include "session/Game.h"
 
 #include <QLabel>
@@ -72,6 +74,23 @@ void frmBuilding::paintBuilding() {
     for (std::size_t i = 0; i < lblBuildingValue_.size(); ++i)
         lblBuildingValue_[i]->setText(QString::fromStdString(t.values[i]));
     imgOOO_->setVisible(t.outOfOrder);
+}
+
+void frmBuilding::attach(QtScreen& screen) {
+    screen.addPainter(View::Building, [this] { paintBuilding(); });
+    screen.onBuildingVisible = [this] { return isVisible(); };
+}
+
+// The house as it stands, then with the out-of-order sign.
+void frmBuilding::addScreenshots(Screenshots& shots) {
+    shots.add([this](Screenshots& s) {
+        game_.switchMode(7);
+        for (const bool broken : {false, true}) {
+            game_.building.IamBroken = broken;
+            game_.building.showBuilding();
+            s.save(this, broken ? QStringLiteral("frmBuilding-broken.png") : QStringLiteral("frmBuilding.png"));
+        }
+    });
 }
 
 } // namespace zorvane::screens

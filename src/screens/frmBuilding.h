@@ -20,6 +20,9 @@ public:
     // Writes the figures and shows or hides the sign.
     void paintBuilding();
 
+    void attach(QtScreen& screen) override;
+    void addScreenshots(Screenshots& shots) override;
+
 private:
     std::array<QLabel*, 9> lblBuildingValue_{};
     QLabel* imgScreen_;

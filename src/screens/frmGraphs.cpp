@@ -1,7 +1,9 @@
 #include "frmGraphs.h"
 
+#include "Screenshots.h"
 #include "frame/Look.h"
 #include "frame/Twips.h"
+#include "ports/QtScreen.h"
 #include "money/GraphManager.h"
 #include "money/GraphTexts.h"
 #include "session/Game.h"
@@ -155,6 +157,19 @@ bool frmGraphs::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     return ChildFrame::eventFilter(watched, event);
+}
+
+void frmGraphs::attach(QtScreen& screen) {
+    screen.addPainter(View::Graph, [this] { paintGraph(); });
+    screen.onGraphVisible = [this] { return isVisible(); };
+}
+
+void frmGraphs::addScreenshots(Screenshots& shots) {
+    shots.add([this](Screenshots& s) {
+        game_.switchMode(6);
+        game_.graph.drawGraph();
+        s.save(this, QStringLiteral("frmGraphs.png"));
+    });
 }
 
 } // namespace zorvane::screens

@@ -20,6 +20,9 @@ public:
     // Puts the last redraw on screen: labels, their places and the picture.
     void paintGraph();
 
+    void attach(QtScreen& screen) override;
+    void addScreenshots(Screenshots& shots) override;
+
 protected:
     bool event(QEvent* e) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

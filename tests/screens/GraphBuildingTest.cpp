@@ -1,6 +1,5 @@
 // The graph's month labels and the building's out-of-order sign, offscreen.
-#include "GameApplication.h"
-#include "GameWindows.h"
+#include "PlayingWindow.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"
 #include "frmBuilding.h"
@@ -28,34 +27,20 @@ void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button) {
 class GraphBuildingTest : public QObject {
     Q_OBJECT
 
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    std::unique_ptr<GameWindows> w;
+    std::unique_ptr<PlayingWindow> p;
 
 private slots:
-    void init() {
-        dialogs = ScriptedDialogs();
-        static_cast<GameApplication*>(qApp)->onFatal = [](const QString& m) { qFatal("fatal: %s", qPrintable(m)); };
-        WindowsSetup setup;
-        setup.folder = ZORVANE_SOURCE_DATA;
-        setup.seed = 7;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        w = std::make_unique<GameWindows>(setup);
-        w->startup();
-        w->game().startPlay(-1);
-        w->showMain();
-    }
-    void cleanup() { w.reset(); }
+    void init() { p = std::make_unique<PlayingWindow>(); }
+    void cleanup() { p.reset(); }
 
     // Left down raises the month label without a click; the left release flattens it and asks
     // the month's box; a right press and release do neither.
     void monthLabelPressAndRelease() {
-        w->game().switchMode(6);
-        QVERIFY(w->screen().graphVisible());
-        w->game().graph.drawGraph();
-        w->screen().flush();
-        auto* month = w->modeScreen(6)->findChild<QLabel*>(QStringLiteral("lblGrfFundsMonth_11"));
+        p->game().switchMode(6);
+        QVERIFY(p->w->screen().graphVisible());
+        p->game().graph.drawGraph();
+        p->w->screen().flush();
+        auto* month = p->mode(6)->findChild<QLabel*>(QStringLiteral("lblGrfFundsMonth_11"));
         QVERIFY(month);
         int clicks = 0;
         ButtonLabel::clickSound = [&clicks] { ++clicks; };
@@ -63,34 +48,34 @@ private slots:
         mouse(month, QEvent::MouseButtonPress, Qt::RightButton);
         QCOMPARE(month->frameShadow(), QFrame::Plain);
         mouse(month, QEvent::MouseButtonRelease, Qt::RightButton);
-        QVERIFY(dialogs.asked.empty());
+        QVERIFY(p->dialogs.asked.empty());
 
         mouse(month, QEvent::MouseButtonPress, Qt::LeftButton);
         QCOMPARE(month->frameShadow(), QFrame::Raised);
-        QVERIFY(dialogs.asked.empty());
+        QVERIFY(p->dialogs.asked.empty());
         mouse(month, QEvent::MouseButtonRelease, Qt::LeftButton);
         QCOMPARE(month->frameShape(), QFrame::NoFrame);
-        QCOMPARE(dialogs.asked.size(), std::size_t(1));
-        QVERIFY(QString::fromStdString(dialogs.asked[0]).startsWith(QStringLiteral("Funds for the month of ") + month->text()));
+        QCOMPARE(p->dialogs.asked.size(), std::size_t(1));
+        QVERIFY(QString::fromStdString(p->dialogs.asked[0]).startsWith(QStringLiteral("Funds for the month of ") + month->text()));
         QCOMPARE(clicks, 0);
         ButtonLabel::clickSound = nullptr;
     }
 
     // The sign stands over the house exactly while the building is broken.
     void signFollowsBrokenFlag() {
-        Game& game = w->game();
+        Game& game = p->game();
         game.switchMode(7);
-        QVERIFY(w->screen().buildingVisible());
-        auto* sign = w->modeScreen(7)->findChild<QLabel*>(QStringLiteral("imgOOO"));
+        QVERIFY(p->w->screen().buildingVisible());
+        auto* sign = p->mode(7)->findChild<QLabel*>(QStringLiteral("imgOOO"));
         QVERIFY(sign);
         for (const bool broken : {true, false, true}) {
             game.building.IamBroken = broken;
             game.building.showBuilding();
-            w->screen().flush();
+            p->w->screen().flush();
             QCOMPARE(sign->isVisible(), broken);
         }
         game.building.repairBuilding();
-        w->screen().flush();
+        p->w->screen().flush();
         QCOMPARE(sign->isVisible(), game.building.IamBroken);
     }
 };

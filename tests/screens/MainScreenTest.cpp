@@ -1,7 +1,6 @@
 // The main screen and the frame of the mode screens, offscreen: what a player would notice
 // going wrong when dragging, gluing, pausing, clicking and quitting.
-#include "GameApplication.h"
-#include "GameWindows.h"
+#include "PlayingWindow.h"
 #include "core/GameError.h"
 #include "session/mainTexts.h"
 #include "frame/ButtonLabel.h"
@@ -45,9 +44,8 @@ void drag(QWidget* header, QPoint by) {
 class MainScreenTest : public QObject {
     Q_OBJECT
 
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    std::unique_ptr<GameWindows> w;
+    std::unique_ptr<PlayingWindow> p;
+    GameWindows* w = nullptr;
     int processEnded = 0;
 
     frmMain& main() { return w->main(); }
@@ -69,26 +67,16 @@ class MainScreenTest : public QObject {
 
 private slots:
     void init() {
-        dialogs = ScriptedDialogs();
         processEnded = 0;
         static_cast<GameApplication*>(qApp)->onProcessEnded = [this] { ++processEnded; };
-        static_cast<GameApplication*>(qApp)->onFatal = [](const QString& m) { qFatal("fatal: %s", qPrintable(m)); };
-        WindowsSetup setup;
-        setup.folder = ZORVANE_SOURCE_DATA;
-        setup.executable = "/opt/zorvane/zorvane";
-        setup.seed = 7;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        w = std::make_unique<GameWindows>(setup);
-        w->startup();
-        w->game().startPlay(-1);
-        w->showMain();
+        p = std::make_unique<PlayingWindow>(7, "/opt/zorvane/zorvane");
+        w = p->w.get();
         main().move(100, 80);
         main().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&main()));
         flush();
     }
-    void cleanup() { w.reset(); }
+    void cleanup() { p.reset(); }
 
     void glue() {
         Game& game = w->game();
@@ -239,23 +227,23 @@ private slots:
         QFETCH(bool, ends);
         QFETCH(bool, starts);
         w->game().savedPath = path.toStdString();
-        dialogs.answers = {static_cast<Answer>(answer)};
+        p->dialogs.answers = {static_cast<Answer>(answer)};
         if (newGame)
             QTest::keyClick(&main(), Qt::Key_N, Qt::ControlModifier);
         else
             QTest::mouseClick(control("lbcClose"), Qt::LeftButton);
-        QCOMPARE(dialogs.asked.size(), std::size_t(1));
-        QCOMPARE(QString::fromStdString(dialogs.asked[0]), question);
+        QCOMPARE(p->dialogs.asked.size(), std::size_t(1));
+        QCOMPARE(QString::fromStdString(p->dialogs.asked[0]), question);
         QCOMPARE(processEnded, ends ? 1 : 0);
-        QCOMPARE(dialogs.started.size(), std::size_t(starts ? 1 : 0));
+        QCOMPARE(p->dialogs.started.size(), std::size_t(starts ? 1 : 0));
         if (starts)
-            QCOMPARE(QString::fromStdString(dialogs.started[0]), QStringLiteral("\"/opt/zorvane/zorvane\""));
+            QCOMPARE(QString::fromStdString(p->dialogs.started[0]), QStringLiteral("\"/opt/zorvane/zorvane\""));
     }
 
     void savedGameQuitsWithoutAQuestion() {
         w->game().saved = true;
         QTest::keyClick(&main(), Qt::Key_Q, Qt::ControlModifier);
-        QVERIFY(dialogs.asked.empty());
+        QVERIFY(p->dialogs.asked.empty());
         QCOMPARE(processEnded, 1);
     }
 };

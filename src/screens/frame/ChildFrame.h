@@ -11,6 +11,9 @@ class Game;
 
 namespace zorvane::screens {
 
+class QtScreen;
+class Screenshots;
+
 // The frame of every mode's screen: a borderless window glued below the main screen (same
 // left edge, same width), with a header label to hold it by.
 //
@@ -34,6 +37,12 @@ public:
     QWidget* body() const { return body_; }
     // The screen's background colour (its formcolor).
     void setFormColour(std::uint32_t bgr);
+
+    // Hooks the screen into the screen port: the views it paints, the notices it answers.
+    virtual void attach(QtScreen&) {}
+    // Adds the screen's pictures to `--screenshots`. A shot sets up the game it wants to
+    // show; the shots run in mode order, after the main screen's.
+    virtual void addScreenshots(Screenshots&) {}
 
 signals:
     // The header was double-clicked: the main screen aligns the screen under itself.

@@ -1,0 +1,56 @@
+#pragma once
+// A windowed game for the screens' tests and benchmarks: boxes answered from a script,
+// settings kept in memory, the game started, "Play !" pressed and the main screen up.
+#include "GameApplication.h"
+#include "GameWindows.h"
+#include "frame/ChildFrame.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace zorvane::screens {
+
+struct PlayingWindow {
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    std::unique_ptr<GameWindows> w;
+
+    explicit PlayingWindow(std::uint64_t seed = 7, std::string executable = {}) {
+        // A fatal error inside a test is a failed test, not a box nobody answers.
+        static_cast<GameApplication*>(qApp)->onFatal = [](const QString& m) {
+            qFatal("fatal: %s", qPrintable(m));
+        };
+        WindowsSetup setup;
+        setup.folder = ZORVANE_SOURCE_DATA;
+        setup.executable = std::move(executable);
+        setup.seed = seed;
+        setup.dialogs = &dialogs;
+        setup.settings = &settings;
+        w = std::make_unique<GameWindows>(setup);
+        w->startup();
+        w->game().startPlay(-1);
+        w->showMain();
+    }
+
+    Game& game() { return w->game(); }
+    ChildFrame* mode(int m) { return w->modeScreen(m); }
+    // Shows a mode's screen and lets its stale views repaint.
+    ChildFrame* show(int m) {
+        game().switchMode(m);
+        QApplication::processEvents();
+        return mode(m);
+    }
+    // A named control of a window; a missing one ends the test run with its name.
+    template <class T> static T* control(QWidget* in, const QString& name) {
+        T* c = in->findChild<T*>(name);
+        if (!c)
+            qFatal("no control %s", qPrintable(name));
+        return c;
+    }
+};
+
+} // namespace zorvane::screens
