@@ -13,10 +13,8 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSoundEffect>
 #include <QStandardPaths>
 #include <QTime>
-#include <QUrl>
 
 #include <cstdio>
 #include <cstdlib>
@@ -90,19 +88,6 @@ QString dataFolder() {
     return here;
 }
 
-// The soft tick of every button label; silent if the sound is missing or there is no audio.
-void setUpClick(const QString& folder, QObject* owner) {
-    const QString path = folder + QStringLiteral("/sounds/click.wav");
-    if (!QFileInfo::exists(path))
-        return;
-    auto* click = new QSoundEffect(owner);
-    click->setSource(QUrl::fromLocalFile(path));
-    ButtonLabel::clickSound = [click] {
-        if (click->isLoaded())
-            click->play();
-    };
-}
-
 // The screenshots show a theater in business: the demo script's first month.
 void playDemo(GameWindows& w, ScriptedDialogs& dialogs, const QString& folder) {
     std::ifstream in((folder + QStringLiteral("/demo.txt")).toStdString());
@@ -145,8 +130,8 @@ int main(int argc, char** argv) {
         if (options.screenshots)
             return runScreenshots(options, folder);
 
-        setUpClick(folder, &app);
         WindowsSetup setup;
+        setup.audio = true; // the game's sounds, where the machine has an audio output
         setup.folder = folder.toStdString();
         setup.commandLine = options.argument;
         setup.executable = QCoreApplication::applicationFilePath().toStdString();

@@ -1,6 +1,7 @@
 // Benchmarks of the game window, offscreen (Google Benchmark): a day at Fast with the main
-// screen and the log window showing, repaint included; start-up to the title screen painted;
-// one line added to a log window that holds 20,000.
+// screen and the log window showing, repaint included; start-up to the title screen painted,
+// silent and with the game's sound port; making the sound players after it; one line added to
+// a log window that holds 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "Commands.h"
 #include "GameApplication.h"
@@ -9,6 +10,7 @@
 #include "frmLoader.h"
 #include "frmLog.h"
 #include "frmMain.h"
+#include "ports/QtSound.h"
 
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -30,8 +32,9 @@ struct Window {
     std::unique_ptr<GameWindows> w;
     frmLog* log = nullptr;
 
-    explicit Window(bool withDemo) {
+    explicit Window(bool withDemo, bool audio = false) {
         WindowsSetup setup;
+        setup.audio = audio;
         setup.folder = ZORVANE_SOURCE_DATA;
         setup.seed = 2026;
         setup.dialogs = &dialogs;
@@ -89,16 +92,36 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
 BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // From nothing to the title screen painted: the ports, the game and every window, the
-// whole start-up order, then the first screen shown and painted.
+// whole start-up order, then the first screen shown and painted. Argument 1: with the game's
+// sound port on Qt Multimedia (the sound board's init opens every player and starts the
+// music); 0: silent, as the tests run. The difference is what the sound board adds.
 void BM_StartToTitle(benchmark::State& state) {
     for (auto _ : state) {
-        Window window(false);
+        Window window(false, state.range(0) != 0);
         QCoreApplication::processEvents();
         window.w->around().loader().repaint();
         benchmark::DoNotOptimize(window.w.get());
     }
 }
-BENCHMARK(BM_StartToTitle)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_StartToTitle)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(10);
+
+// The players themselves, made after the title screen is up (one per pass of the event loop
+// in the game; all at once here): on a machine without an audio output this is the one look
+// for a device.
+void BM_SoundPlayersMade(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto window = std::make_unique<Window>(false, true);
+        QtSound* sound = window->w->qtSound();
+        state.ResumeTiming();
+        sound->makeAll();
+        state.PauseTiming();
+        state.counters["audio"] = sound->hasAudio() ? 1 : 0;
+        window.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_SoundPlayersMade)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 // One more line in a log window that already holds 20,000. Lines come in bursts (a day
 // writes several) and the window paints once per pass of the event loop: here once every

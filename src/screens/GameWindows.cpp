@@ -2,6 +2,7 @@
 
 #include "AroundScreens.h"
 #include "frmLoader.h"
+#include "frmLog.h"
 #include "frame/ButtonLabel.h"
 #include "frmArcade.h"
 #include "frmBuilding.h"
@@ -12,7 +13,10 @@
 #include "frmMain.h"
 #include "frmMovies.h"
 #include "frmPromo.h"
+#include "frmSettings.h"
+#include "frmTutor.h"
 #include "ports/QtSettings.h"
+#include "ports/QtSound.h"
 
 #include <QApplication>
 
@@ -21,6 +25,8 @@ namespace zorvane::screens {
 GameWindows::GameWindows(WindowsSetup setup) {
     if (!setup.settings)
         ownSettings_ = std::make_unique<QtSettings>();
+    if (!setup.sound && setup.audio)
+        ownSound_ = std::make_unique<QtSound>();
     GameSetup g;
     g.folder = setup.folder;
     g.commandLine = setup.commandLine;
@@ -29,7 +35,10 @@ GameWindows::GameWindows(WindowsSetup setup) {
     g.screen = &screen_;
     g.dialogs = setup.dialogs ? setup.dialogs : &qtDialogs_;
     g.settings = setup.settings ? setup.settings : ownSettings_.get();
+    g.sound = setup.sound ? setup.sound : ownSound_.get();
     game_ = std::make_unique<Game>(std::move(g));
+    if (ownSound_)
+        ownSound_->onMusicEnded = [this] { game_->soundBoard.musicEnded(); };
 
     main_ = std::make_unique<frmMain>(*game_, screen_);
     qtDialogs_.parent = main_.get();
@@ -42,8 +51,22 @@ GameWindows::GameWindows(WindowsSetup setup) {
         m->attach(screen_);
     around_ = std::make_unique<AroundScreens>(*game_, screen_, qtDialogs_, *main_,
                                               [this] { showMain(); });
+    // The advisor and the settings screen float above the main screen, which owns them.
+    tutor_ = new frmTutor(*game_, main_.get());
+    tutor_->attach(screen_);
+    settings_ = new frmSettings(*game_, main_.get());
+    settings_->attach(screen_);
+    main_->onSettingsMenu = [this] { settings_->showSettings(); };
+    // Every button label of the game clicks through the sound board.
+    const auto click = [this] { game_->soundBoard.playClick(); };
+    setClickRoute(main_.get(), click);
+    setClickRoute(&around_->loader(), click);
+    setClickRoute(&around_->log(), click);
+
     addScreenshots();
     around_->addScreenshots(shots_);
+    settings_->addScreenshots(shots_);
+    tutor_->addScreenshots(shots_);
     addModeScreenshots();
 }
 

@@ -14,6 +14,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace zorvane::screens {
 
 namespace {
@@ -38,6 +40,10 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
         p.setRenderHint(QPainter::Antialiasing);
+        // The marks stand where the rules put them, even off the picture: a month without
+        // history plots at 0, which can lie below the bottom edge. The picture shows what
+        // falls inside it; a line to such a mark runs out at the edge.
+        p.setClipRect(rect());
         const std::size_t gridLines = 10 + 12; // the grid comes first in the drawing
         for (std::size_t i = 0; i < graph_.lines.size(); ++i) {
             const GraphLine& l = graph_.lines[i];
@@ -160,16 +166,39 @@ bool frmGraphs::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmGraphs::attach(QtScreen& screen) {
+    screen_ = &screen;
     screen.addPainter(View::Graph, [this] { paintGraph(); });
     screen.onGraphVisible = [this] { return isVisible(); };
 }
 
 void frmGraphs::addScreenshots(Screenshots& shots) {
     shots.add([this](Screenshots& s) {
+        playYearForShot();
         game_.switchMode(6);
         game_.graph.drawGraph();
         s.save(this, QStringLiteral("frmGraphs.png"));
     });
+}
+
+// The graph is worth a look after a year: twelve months of history. The clock is paused
+// first, so no day runs by itself while a later shot waits for its paint; during the year a
+// lost game or a reached goal only counts, as its picture would wait for a double click.
+// The shots' boxes are answered by script, so no question waits either.
+void frmGraphs::playYearForShot() {
+    constexpr int yearDays = 12 * 4 * 7;
+    game_.setSpeed(0);
+    if (!screen_)
+        return;
+    const auto lose = std::exchange(screen_->onShowLose, [] {});
+    const auto goal = std::exchange(screen_->onShowGoal, [] {});
+    try {
+        for (int d = 0; d < yearDays; ++d)
+            game_.calendar.nextDay();
+    } catch (const std::exception&) {
+        // A run-time error of the game ends the year early; the graph shows what was played.
+    }
+    screen_->onShowLose = lose;
+    screen_->onShowGoal = goal;
 }
 
 } // namespace zorvane::screens

@@ -28,6 +28,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Plays a year of days for the screenshot, the pictures that would wait for a double
+    // click only counted.
+    void playYearForShot();
+
+    QtScreen* screen_ = nullptr;
     QWidget* picFundsGraph_;
     std::array<QLabel*, 10> lblGrfFunds_{};
     std::array<QLabel*, 12> lblGrfFundsMonth_{};

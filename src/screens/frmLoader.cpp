@@ -123,8 +123,7 @@ void frmLoader::goalClicked() {
     const QList<QListWidgetItem*> picked = lstGoals_->selectedItems();
     if (picked.isEmpty())
         return;
-    if (ButtonLabel::clickSound)
-        ButtonLabel::clickSound();
+    routeClick(this);
     game_.goals.selectGoal(lstGoals_->row(picked.front()));
 }
 

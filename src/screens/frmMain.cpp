@@ -373,7 +373,9 @@ void frmMain::clickMenu(int index) {
     case 2:
         game_.goals.showGoalInfo();
         break;
-    default: // the settings screen comes with the sound board
+    default:
+        if (onSettingsMenu)
+            onSettingsMenu();
         break;
     }
 }

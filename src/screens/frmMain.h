@@ -47,9 +47,10 @@ public:
     QTimer* clock() const { return tmrGo_; }
     ButtonLabel* speedImage(int speed) const { return imgSpeed_[static_cast<std::size_t>(speed)]; }
 
-    // Hooks the other windows set: the file menu, the log window.
+    // Hooks the other windows set: the file menu, the log window, the settings screen.
     std::function<void()> onFileMenu;
     std::function<void()> onShowLog;
+    std::function<void()> onSettingsMenu;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,6 +1,7 @@
 #pragma once
 // A windowed game for the screens' tests and benchmarks: boxes answered from a script,
-// settings kept in memory, the game started, "Play !" pressed and the main screen up.
+// settings kept in memory, sounds recorded, the game started, "Play !" pressed and the main
+// screen up.
 #include "GameApplication.h"
 #include "GameWindows.h"
 #include "frame/ChildFrame.h"
@@ -8,6 +9,7 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -17,6 +19,7 @@ namespace zorvane::screens {
 struct PlayingWindow {
     ScriptedDialogs dialogs;
     MemorySettings settings;
+    RecordingSound sound;
     std::unique_ptr<GameWindows> w;
 
     explicit PlayingWindow(std::uint64_t seed = 7, std::string executable = {}) {
@@ -30,6 +33,7 @@ struct PlayingWindow {
         setup.seed = seed;
         setup.dialogs = &dialogs;
         setup.settings = &settings;
+        setup.sound = &sound;
         w = std::make_unique<GameWindows>(setup);
         w->startup();
         w->game().startPlay(-1);
@@ -37,6 +41,12 @@ struct PlayingWindow {
     }
 
     Game& game() { return w->game(); }
+    // How many button clicks were heard so far.
+    long clicks() const {
+        if (sound.opened[SoundPort::clickPlayer].empty())
+            return -1;
+        return std::count(sound.played.begin(), sound.played.end(), std::string("click.wav"));
+    }
     ChildFrame* mode(int m) { return w->modeScreen(m); }
     // Shows a mode's screen and lets its stale views repaint.
     ChildFrame* show(int m) {

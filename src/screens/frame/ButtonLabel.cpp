@@ -9,7 +9,46 @@
 
 namespace zorvane::screens {
 
-std::function<void()> ButtonLabel::clickSound;
+namespace {
+
+// A window's click, held as a child object of the window so it lives and dies with it.
+class ClickRoute : public QObject {
+public:
+    ClickRoute(QObject* window, std::function<void()> click)
+        : QObject(window), click_(std::move(click)) {}
+    void play() const {
+        if (click_)
+            click_();
+    }
+
+private:
+    std::function<void()> click_;
+};
+
+} // namespace
+
+void setClickRoute(QObject* window, std::function<void()> click) {
+    if (!window)
+        return;
+    for (QObject* child : window->children()) {
+        if (auto* old = dynamic_cast<ClickRoute*>(child)) {
+            delete old;
+            break;
+        }
+    }
+    new ClickRoute(window, std::move(click));
+}
+
+void routeClick(const QObject* from) {
+    for (const QObject* o = from; o; o = o->parent()) {
+        for (const QObject* child : o->children()) {
+            if (auto* route = dynamic_cast<const ClickRoute*>(child)) {
+                route->play();
+                return;
+            }
+        }
+    }
+}
 
 ButtonLabel::ButtonLabel(const QString& name, const QString& caption, QWidget* parent,
                          Style style)
@@ -34,8 +73,8 @@ void ButtonLabel::setColours(const QColor& background, const QColor& text,
 }
 
 void ButtonLabel::playClick() const {
-    if (sound_ && clickSound)
-        clickSound();
+    if (sound_)
+        routeClick(this);
 }
 
 void ButtonLabel::showPressed(bool pressed) {

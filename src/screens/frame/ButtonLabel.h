@@ -34,9 +34,6 @@ public:
     // What a shortcut key does: exactly the left click (sound and action).
     void trigger();
 
-    // The click of every button label; the sound board sets it, tests count with it.
-    static std::function<void()> clickSound;
-
 signals:
     void clicked();
 
@@ -54,6 +51,13 @@ private:
     bool sound_ = true;
     QColor background_, text_, pressedBackground_, pressedText_;
 };
+
+// Where the button labels of a window send their click: set on a window (the main screen, the
+// title screen), it serves every button label inside it and inside the windows it owns. The
+// game routes it to its sound board; a label with no route anywhere above it is silent.
+void setClickRoute(QObject* window, std::function<void()> click);
+// Plays the click of the nearest owner of `from` that has a route.
+void routeClick(const QObject* from);
 
 // Screen readers see button labels as buttons with a press action.
 void installButtonLabelAccessibility();
