@@ -18,7 +18,7 @@ frmSettings::frmSettings(Game& game, QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::Tool), game_(game) {
     setObjectName(QStringLiteral("frmSettings"));
     setWindowTitle(QStringLiteral("Settings"));
-    look::paint(this, look::navy, look::cream);
+    look::paint(this, look::navy, look::ink);
 
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("tabSettings"));
@@ -80,8 +80,11 @@ void frmSettings::attach(QtScreen& screen) {
 
 void frmSettings::addScreenshots(Screenshots& shots) {
     shots.add([this](Screenshots& s) {
-        paintBoxes();
+        const bool shown = isVisible();
+        showSettings(); // laid out as on screen
         s.save(this, QStringLiteral("frmSettings.png"));
+        if (!shown)
+            hide();
     });
 }
 

@@ -42,9 +42,16 @@ QtSound::QtSound(QObject* parent) : QObject(parent) {}
 
 QtSound::~QtSound() = default;
 
+// Asking for the outputs connects to the sound server; where there is none, Qt Multimedia
+// says so on the console. A game without sound says nothing: the answer is all we need, so
+// whatever is said while asking is dropped.
 bool QtSound::hasAudio() {
-    if (audio_ < 0)
+    if (audio_ < 0) {
+        const QtMessageHandler previous =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         audio_ = QMediaDevices::audioOutputs().isEmpty() ? 0 : 1;
+        qInstallMessageHandler(previous);
+    }
     return audio_ == 1;
 }
 
