@@ -6,6 +6,7 @@
 #include "GameApplication.h"
 #include "GameWindows.h"
 #include "Commands.h"
+#include "lab/Strategy.h"
 #include "core/GameError.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
@@ -19,6 +20,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -111,6 +113,11 @@ int runScreenshots(const Options& o, const QString& folder) {
     w.showMain();
     w.main().move(0, 0);
     playDemo(w, dialogs, folder);
+    // The shots that play on (the graph's year) have the theater run as the advisor teaches,
+    // so the year shows a house in business.
+    const std::unique_ptr<lab::Strategy> player = lab::makeAdvisorStrategy();
+    player->begin(w.game());
+    w.screenshots().beforeDay = [&w, &player] { player->beforeDay(w.game()); };
     const int failed = w.screenshots().run(QString::fromStdString(o.screenshotDir));
     return failed == 0 ? 0 : 1;
 }

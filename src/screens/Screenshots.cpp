@@ -26,6 +26,8 @@ int Screenshots::run(const QString& dir) {
     QDir().mkpath(dir);
     for (const Shot& shot : shots_)
         shot(*this);
+    for (const Shot& shot : lastShots_)
+        shot(*this);
     return failed_;
 }
 

@@ -172,8 +172,8 @@ void frmGraphs::attach(QtScreen& screen) {
 }
 
 void frmGraphs::addScreenshots(Screenshots& shots) {
-    shots.add([this](Screenshots& s) {
-        playYearForShot();
+    shots.addLast([this](Screenshots& s) {
+        playYearForShot(s);
         game_.switchMode(6);
         game_.graph.drawGraph();
         s.save(this, QStringLiteral("frmGraphs.png"));
@@ -184,7 +184,7 @@ void frmGraphs::addScreenshots(Screenshots& shots) {
 // first, so no day runs by itself while a later shot waits for its paint; during the year a
 // lost game or a reached goal only counts, as its picture would wait for a double click.
 // The shots' boxes are answered by script, so no question waits either.
-void frmGraphs::playYearForShot() {
+void frmGraphs::playYearForShot(Screenshots& shots) {
     constexpr int yearDays = 12 * 4 * 7;
     game_.setSpeed(0);
     if (!screen_)
@@ -192,8 +192,11 @@ void frmGraphs::playYearForShot() {
     const auto lose = std::exchange(screen_->onShowLose, [] {});
     const auto goal = std::exchange(screen_->onShowGoal, [] {});
     try {
-        for (int d = 0; d < yearDays; ++d)
+        for (int d = 0; d < yearDays; ++d) {
+            if (shots.beforeDay)
+                shots.beforeDay();
             game_.calendar.nextDay();
+        }
     } catch (const std::exception&) {
         // A run-time error of the game ends the year early; the graph shows what was played.
     }

@@ -30,7 +30,7 @@ protected:
 private:
     // Plays a year of days for the screenshot, the pictures that would wait for a double
     // click only counted.
-    void playYearForShot();
+    void playYearForShot(Screenshots& shots);
 
     QtScreen* screen_ = nullptr;
     QWidget* picFundsGraph_;
