@@ -105,6 +105,15 @@ void BM_StartToTitle(benchmark::State& state) {
 }
 BENCHMARK(BM_StartToTitle)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(10);
 
+// The sound board's part of start-up alone (step "starting sound board"), with the game's
+// sound port: every player opened and the music started.
+void BM_SoundBoardInit(benchmark::State& state) {
+    Window window(false, true);
+    for (auto _ : state)
+        window.w->game().soundBoard.init();
+}
+BENCHMARK(BM_SoundBoardInit)->Unit(benchmark::kMicrosecond);
+
 // The players themselves, made after the title screen is up (one per pass of the event loop
 // in the game; all at once here): on a machine without an audio output this is the one look
 // for a device.

@@ -41,7 +41,8 @@ public:
     // Hooks the screen into the screen port: the views it paints, the notices it answers.
     virtual void attach(QtScreen&) {}
     // Adds the screen's pictures to `--screenshots`. A shot sets up the game it wants to
-    // show; the shots run in mode order, after the main screen's.
+    // show; the shots run in mode order, after the main screen's (a shot that plays the game
+    // on goes in with Screenshots::addLast).
     virtual void addScreenshots(Screenshots&) {}
 
 signals:
