@@ -114,10 +114,15 @@ int runScreenshots(const Options& o, const QString& folder) {
     w.main().move(0, 0);
     playDemo(w, dialogs, folder);
     // The shots that play on (the graph's year) have the theater run as the advisor teaches,
-    // so the year shows a house in business.
+    // so the year shows a house in business. The player takes over at the first such day, so
+    // the other shots show the demo's theater as the script left it.
     const std::unique_ptr<lab::Strategy> player = lab::makeAdvisorStrategy();
-    player->begin(w.game());
-    w.screenshots().beforeDay = [&w, &player] { player->beforeDay(w.game()); };
+    w.screenshots().beforeDay = [&w, &player, begun = false]() mutable {
+        if (!begun)
+            player->begin(w.game());
+        begun = true;
+        player->beforeDay(w.game());
+    };
     const int failed = w.screenshots().run(QString::fromStdString(o.screenshotDir));
     return failed == 0 ? 0 : 1;
 }
