@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -261,13 +262,21 @@ void frmArcade::build() {
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
     SSTab1_->setDocumentMode(true);
     SSTab1_->setFont(look::font(8.5, true));
+    SSTab1_->setStyleSheet(QStringLiteral(
+        "QTabBar::tab { background: #1D2A44; color: #F6E7C1; padding: 4px 16px; margin: 3px 2px 0 4px;"
+        " border: 1px solid #C9A227; border-bottom: 0px; border-top-left-radius: 5px;"
+        " border-top-right-radius: 5px; }"
+        "QTabBar::tab:selected { background: #B3262E; color: #F2C14E; }"
+        "QTabBar::tab:!selected:hover { background: #2B3B5E; }"));
     connect(SSTab1_->tabBar(), &QTabBar::tabBarClicked, this, [] { click(); });
 
     chkRepair_ = new QCheckBox(QString::fromLatin1(arcadeRepairCaption));
     chkRepair_->setObjectName(QStringLiteral("chkRepair"));
     chkRepair_->setToolTip(QString::fromLatin1(arcadeRepairTip));
     chkRepair_->setFont(look::font(8.5, true));
-    chkRepair_->setContentsMargins(0, 0, 10, 0);
+    chkRepair_->setStyleSheet(QStringLiteral(
+        "QCheckBox { background: #F6E7C1; color: #2B1D14; border: 1px solid #C9A227;"
+        " border-radius: 5px; padding: 2px 8px; margin: 3px 6px 2px 0; }"));
     connect(chkRepair_, &QCheckBox::clicked, this, [this](bool on) {
         click();
         game_.arcades.setAutoRepair(on);
@@ -298,16 +307,24 @@ void frmArcade::build() {
     grdBuyGames_->verticalHeader()->hide();
     grdBuyGames_->verticalHeader()->setDefaultSectionSize(20);
     grdBuyGames_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    grdBuyGames_->horizontalHeader()->setFont(look::font(8, true));
+    grdBuyGames_->horizontalHeader()->setFont(look::font(7.5));
     grdBuyGames_->horizontalHeader()->setHighlightSections(false);
     const int widths[3] = {4400, 1000, 1000};
-    for (int c = 0; c < 3; ++c)
+    int gridWidth = 0;
+    for (int c = 0; c < 3; ++c) {
         grdBuyGames_->setColumnWidth(c, px(widths[c]));
+        gridWidth += px(widths[c]);
+    }
+    // The table is as wide as its columns and the scroll bar it always keeps.
+    grdBuyGames_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    grdBuyGames_->resize(gridWidth + 2 + grdBuyGames_->verticalScrollBar()->sizeHint().width(),
+                         grdBuyGames_->height());
     grdBuyGames_->setStyleSheet(QStringLiteral(
         "QTableWidget { background: #FFFDF6; alternate-background-color: #F6E7C1;"
         " gridline-color: #E2CF9E; color: #2B1D14; selection-background-color: #2F8F83;"
         " selection-color: #FFFFFF; border: 1px solid #C9A227; }"
-        "QHeaderView::section { background: #1D2A44; color: #F2C14E; padding: 2px 4px;"
+        "QHeaderView { background: #1D2A44; }"
+        "QHeaderView::section { background: #1D2A44; color: #F2C14E; padding: 2px 3px;"
         " border: 0px; border-right: 1px solid #2B1D14; }"));
     connect(grdBuyGames_, &QTableWidget::cellDoubleClicked, this,
             [this](int row, int) { game_.arcades.buyGame(row + 1); });
@@ -315,16 +332,18 @@ void frmArcade::build() {
     auto* hint = makeLabel(buyTab, QStringLiteral("lblBuyHint"),
                            QStringLiteral("Double click a game to buy it. It comes into "
                                           "your room at once, ready to play."),
-                           QRect(470, 196, 160, 60), look::font(8));
+                           QRect(470, 160, 160, 60), look::font(8));
     hint->setWordWrap(true);
-    auto* sample = makeLabel(buyTab, QStringLiteral("imgBuySample"), {}, QRect(518, 40, 64, 96),
+    hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* sample = makeLabel(buyTab, QStringLiteral("imgBuySample"), {}, QRect(518, 50, 64, 96),
                              look::font(8));
     sample->setPixmap(loadPicture(game_, "images\\arcades\\003L@2x.gif"));
     SSTab1_->addTab(buyTab, QString::fromLatin1(arcadeTabs[1]));
 
+    // The room fills the screen below the tabs, the frame's brass rule showing at its foot.
     const int tabBarHeight = SSTab1_->tabBar()->sizeHint().height();
     SSTab1_->setGeometry(0, 0, roomWidth, tabBarHeight + roomHeight);
-    resize(width(), header()->height() + tabBarHeight + roomHeight + 1);
+    resize(width(), px(330) + tabBarHeight + roomHeight + 1);
     paintRoom();
     paintBuyGrid();
 }
@@ -408,6 +427,7 @@ void frmArcade::buildDetails(QWidget* parent) {
     lblSliderTop_->setAccessibleName(QStringLiteral("Cabinet style slider"));
     lblSliderTop_->setCursor(Qt::SizeHorCursor);
     lblSliderTop_->setToolTip(QString::fromLatin1(arcadeSliderCaption));
+    lblSliderTop_->setFocusPolicy(Qt::TabFocus); // the arrow keys step through the styles
     lblSliderTop_->installEventFilter(this);
     auto* caption = makeLabel(d, QStringLiteral("Label1"), QString::fromLatin1(arcadeSliderCaption),
                               QRect(sliderLeft, sliderTop + sliderHeight + 4, sliderWidth, 14),
@@ -755,6 +775,17 @@ bool frmArcade::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonRelease:
             sliderRelease();
             return true;
+        case QEvent::KeyPress: {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key != Qt::Key_Left && key != Qt::Key_Right)
+                break;
+            const int style = std::clamp(lblSliderBack_->text().toInt() + (key == Qt::Key_Left ? -1 : 1), 1,
+                                         std::max(1, int(game_.math.arcadeimages)));
+            setSliderPosition(style);
+            game_.arcades.previewCabinet(style);
+            sliderRelease();
+            return true;
+        }
         default:
             break;
         }
@@ -806,8 +837,8 @@ void frmArcade::addScreenshots(Screenshots& shots) {
         }
         g.switchMode(3);
         // Where the player has set them: three left of the door, three right of it.
-        const float places[6][2] = {{700, 2100}, {2500, 2700}, {3300, 1950},
-                                    {6200, 2000}, {7700, 2600}, {5200, 2900}};
+        const float places[6][2] = {{700, 1850}, {1900, 3150}, {3000, 1900},
+                                    {6100, 1850}, {7900, 2300}, {3900, 3150}};
         for (int i = 1; i <= a.getMachineCount() && i <= 6; ++i) {
             const arcadeCabinet& c = a.room.cabinet(i);
             a.moveCabinet(i, places[i - 1][0] - c.left, places[i - 1][1] - c.top, 0, 0);
@@ -834,6 +865,7 @@ void frmArcade::addScreenshots(Screenshots& shots) {
         a.closeDetailsPanel();
         SSTab1_->setCurrentIndex(0);
         s.save(this, QStringLiteral("frmArcade-0.png"));
+        a.releaseGames(); // the next month's market
         SSTab1_->setCurrentIndex(1);
         s.save(this, QStringLiteral("frmArcade-1.png"));
         SSTab1_->setCurrentIndex(0);
