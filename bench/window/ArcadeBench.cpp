@@ -51,16 +51,18 @@ void BM_ArcadeDragMove(benchmark::State& state) {
     // Five rows of four, the rows overlapping as a crowded room's do.
     for (int i = 1; i <= 20; ++i) {
         const arcadeCabinet& c = arcades.room.cabinet(i);
-        arcades.moveCabinet(i, 300 + ((i - 1) % 5) * 1900 - c.left, 1900 + ((i - 1) / 5) * 700 - c.top,
-                            0, 0);
+        arcades.moveCabinet(i, 300 + ((i - 1) % 5) * 1900 - c.left,
+                            1900 + ((i - 1) / 5) * 700 - c.top, 0, 0);
     }
     game.switchMode(3);
     QCoreApplication::processEvents();
     auto* screen = static_cast<frmArcade*>(w.modeScreen(3));
     QWidget* cab = screen->findChild<QWidget*>(QStringLiteral("imgGame_8"));
     auto send = [cab](QEvent::Type type, QPointF at) {
-        QMouseEvent e(type, at, cab->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent e(type, at, cab->mapToGlobal(at),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
         QApplication::sendEvent(cab, &e);
     };
     PaintCounter counter;

@@ -14,10 +14,10 @@ class arcadeManager;
 struct ArcadeDetails {
     int num = 0;
     std::string name;
-    std::string pop;       // digits
-    std::string age;       // "12 months"
-    std::string condition; // "Working" or "Broken"
-    bool broken = false;   // the condition's red back and the Repair button
+    std::string pop;                 // digits
+    std::string age;                 // "12 months"
+    std::string condition;           // "Working" or "Broken"
+    bool broken = false;             // the condition's red back and the Repair button
     std::uint32_t conditionBack = 0; // 0xRRGGBB: light yellow while working, red when broken
     std::string paid;
     std::string repairs;
@@ -39,7 +39,7 @@ inline constexpr const char* arcadeRepairTip =
 inline constexpr const char* arcadeSliderCaption = "Drag to change cabinet style";
 // lblDetlHeader: the headers beside the details panel's figures, in panel order, and Label2.
 inline constexpr std::array<const char*, 9> arcadeDetailHeaders{
-    "Price per play:", "Popularity:",   "Age:",          "Condition:",  "Price you paid:",
+    "Price per play:",  "Popularity:",  "Age:",          "Condition:",   "Price you paid:",
     "Paid in repairs:", "Total plays:", "Total Income:", "Total Profit:"};
 inline constexpr const char* arcadeValueHeader = "Current Market Value";
 // The panel's three buttons and their colours (blue, green, red).

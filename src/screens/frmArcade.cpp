@@ -1,5 +1,7 @@
 #include "frmArcade.h"
 
+#include "frmArcadePictures.h"
+
 #include "Screenshots.h"
 #include "arcade/arcadeTexts.h"
 #include "frame/ButtonLabel.h"
@@ -18,9 +20,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTabWidget>
@@ -42,10 +43,10 @@ constexpr int sliderLeft = 8, sliderTop = 146, sliderWidth = 246, sliderHeight =
 // A cabinet dragged past the room's edge keeps this much of itself in the room, so it can
 // always be taken hold of and dragged back.
 constexpr int keepInRoom = 14;
-// A cabinet moved by the arrow keys goes this far a key stroke.
-constexpr int nudgeTwips = 8 * twipsPerPixel;
 
-int toPx(float twipsValue) { return static_cast<int>(std::floor(twipsValue / twipsPerPixel)); }
+int toPx(float twipsValue) {
+    return static_cast<int>(std::floor(twipsValue / twipsPerPixel));
+}
 
 QColor fromRgb(std::uint32_t rgb) {
     return QColor(static_cast<int>((rgb >> 16) & 0xFF), static_cast<int>((rgb >> 8) & 0xFF),
@@ -64,16 +65,16 @@ QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, con
 // Sell and Close answer every mouse button: any press sinks them with the click, any
 // release acts, wherever the mouse is let go (Repair keeps the left-only rule).
 class AnyButtonLabel : public ButtonLabel {
-public:
+  public:
     using ButtonLabel::ButtonLabel;
 
-protected:
+  protected:
     void mousePressEvent(QMouseEvent* e) override { ButtonLabel::mousePressEvent(asLeft(e).get()); }
     void mouseReleaseEvent(QMouseEvent* e) override {
         ButtonLabel::mouseReleaseEvent(asLeft(e).get());
     }
 
-private:
+  private:
     static std::unique_ptr<QMouseEvent> asLeft(QMouseEvent* e) {
         return std::make_unique<QMouseEvent>(e->type(), e->position(), e->scenePosition(),
                                              e->globalPosition(), Qt::LeftButton, e->buttons(),
@@ -82,167 +83,6 @@ private:
 };
 
 } // namespace
-
-// picRoom: the room's drawing, scaled once to the screen's pixel ratio. The divider
-// (lnLeftRight) is not drawn: the player sees only that cabinets face the room's centre.
-class RoomPicture : public QWidget {
-public:
-    RoomPicture(const Game& game, QWidget* parent) : QWidget(parent) {
-        setObjectName(QStringLiteral("picRoom"));
-        setAccessibleName(QStringLiteral("Arcade room"));
-        source_ = loadPicture(game, "images\\arcades\\room.png");
-        setAttribute(Qt::WA_OpaquePaintEvent, !source_.isNull());
-    }
-
-protected:
-    void paintEvent(QPaintEvent* e) override {
-        QPainter p(this);
-        const qreal ratio = devicePixelRatioF();
-        if (source_.isNull()) {
-            p.fillRect(e->rect(), look::night);
-            return;
-        }
-        if (scaled_.isNull() || scaled_.devicePixelRatio() != ratio) {
-            scaled_ = source_.scaled(QSize(width(), height()) * ratio, Qt::IgnoreAspectRatio,
-                                     Qt::SmoothTransformation);
-            scaled_.setDevicePixelRatio(ratio);
-        }
-        p.drawPixmap(e->rect().topLeft(), scaled_,
-                     QRectF(QPointF(e->rect().topLeft()) * ratio, QSizeF(e->rect().size()) * ratio));
-    }
-
-private:
-    QPixmap source_, scaled_;
-};
-
-// imgGame(index): one machine's cabinet. It is as big as the logic says; with no picture it
-// shows only a faint dashed outline, and its title still stands above it.
-class CabinetPicture : public QWidget {
-public:
-    CabinetPicture(frmArcade& owner, int index, QWidget* parent)
-        : QWidget(parent), owner_(owner), index_(index) {
-        setObjectName(QStringLiteral("imgGame_%1").arg(index));
-        setFocusPolicy(Qt::TabFocus);
-        setCursor(Qt::OpenHandCursor);
-        setToolTip(QStringLiteral("Drag to move; double click for details"));
-    }
-    void setPicture(const std::string& path) {
-        if (path == path_)
-            return;
-        path_ = path;
-        update();
-    }
-    const std::string& picturePath() const { return path_; }
-    // Whether a picture is drawn (a missing file leaves the cabinet without one).
-    bool hasPicture() { return !owner_.cabinetPixmap(path_, devicePixelRatioF()).isNull(); }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        const QPixmap& pix = owner_.cabinetPixmap(path_, devicePixelRatioF());
-        if (!pix.isNull()) {
-            p.drawPixmap(0, 0, pix);
-        } else {
-            QPen pen(look::popcorn, 1, Qt::DashLine);
-            p.setPen(pen);
-            p.drawRect(rect().adjusted(0, 0, -1, -1));
-        }
-        if (hasFocus()) {
-            p.setPen(QPen(look::popcorn, 1, Qt::DotLine));
-            p.drawRect(rect().adjusted(1, 1, -2, -2));
-        }
-    }
-    void mousePressEvent(QMouseEvent* e) override { owner_.cabinetPress(index_, e); }
-    void mouseMoveEvent(QMouseEvent* e) override { owner_.cabinetMove(index_, e); }
-    void mouseReleaseEvent(QMouseEvent*) override { owner_.cabinetRelease(); }
-    void mouseDoubleClickEvent(QMouseEvent*) override { owner_.cabinetDoubleClick(index_); }
-    void keyPressEvent(QKeyEvent* e) override {
-        switch (e->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space:
-            owner_.cabinetDoubleClick(index_);
-            return;
-        case Qt::Key_Left:
-            owner_.cabinetNudge(index_, -nudgeTwips, 0);
-            return;
-        case Qt::Key_Right:
-            owner_.cabinetNudge(index_, nudgeTwips, 0);
-            return;
-        case Qt::Key_Up:
-            owner_.cabinetNudge(index_, 0, -nudgeTwips);
-            return;
-        case Qt::Key_Down:
-            owner_.cabinetNudge(index_, 0, nudgeTwips);
-            return;
-        default:
-            QWidget::keyPressEvent(e);
-        }
-    }
-
-private:
-    frmArcade& owner_;
-    int index_;
-    std::string path_;
-};
-
-// lblGameName(index): the title above a cabinet, in the machine's colour (light cyan while
-// it works, red while broken) on a dark plate that reads on the wall and on the carpet.
-// The mouse goes through it to the cabinets.
-class CabinetTitle : public QLabel {
-public:
-    CabinetTitle(int index, QWidget* parent) : QLabel(parent) {
-        setObjectName(QStringLiteral("lblGameName_%1").arg(index));
-        setFont(look::font(7, true));
-        setAlignment(Qt::AlignCenter);
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-    void setColour(const QColor& c) {
-        if (c == palette().color(QPalette::WindowText))
-            return;
-        QPalette p = palette();
-        p.setColor(QPalette::WindowText, c);
-        setPalette(p);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setPen(Qt::NoPen);
-        p.setBrush(QColor(15, 22, 38, 200));
-        p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-        p.setPen(palette().color(QPalette::WindowText));
-        p.setFont(font());
-        p.drawText(rect(), Qt::AlignCenter, text());
-    }
-};
-
-// lnSlider: the handle of the style slider, a line from its upper end to its lower end. While
-// it is dragged only the upper end follows the mouse, so the line leans; letting go sets it
-// upright again.
-class SliderLine : public QWidget {
-public:
-    SliderLine(frmArcade& owner, QWidget* parent) : QWidget(parent), owner_(owner) {
-        setObjectName(QStringLiteral("lnSlider"));
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        const double x1 = owner_.sliderTopX() / double(twipsPerPixel) - x();
-        const double x2 = owner_.sliderBottomX() / double(twipsPerPixel) - x();
-        p.setPen(QPen(look::ink, 5, Qt::SolidLine, Qt::RoundCap));
-        p.drawLine(QPointF(x1, 2), QPointF(x2, height() - 2));
-        p.setPen(QPen(look::curtain, 3, Qt::SolidLine, Qt::RoundCap));
-        p.drawLine(QPointF(x1, 2), QPointF(x2, height() - 2));
-    }
-
-private:
-    frmArcade& owner_;
-};
 
 frmArcade::frmArcade(Game& game, std::uint32_t bgr, QWidget* parent)
     : ChildFrame(game, 3, QStringLiteral("frmArcade"), QString::fromLatin1(arcadeHeader), bgr,
@@ -263,7 +103,8 @@ void frmArcade::build() {
     SSTab1_->setDocumentMode(true);
     SSTab1_->setFont(look::font(8.5, true));
     SSTab1_->setStyleSheet(QStringLiteral(
-        "QTabBar::tab { background: #1D2A44; color: #F6E7C1; padding: 4px 16px; margin: 3px 2px 0 4px;"
+        "QTabBar::tab { background: #1D2A44; color: #F6E7C1; padding: 4px 16px; margin: 3px 2px 0 "
+        "4px;"
         " border: 1px solid #C9A227; border-bottom: 0px; border-top-left-radius: 5px;"
         " border-top-right-radius: 5px; }"
         "QTabBar::tab:selected { background: #B3262E; color: #F2C14E; }"
@@ -274,9 +115,9 @@ void frmArcade::build() {
     chkRepair_->setObjectName(QStringLiteral("chkRepair"));
     chkRepair_->setToolTip(QString::fromLatin1(arcadeRepairTip));
     chkRepair_->setFont(look::font(8.5, true));
-    chkRepair_->setStyleSheet(QStringLiteral(
-        "QCheckBox { background: #F6E7C1; color: #2B1D14; border: 1px solid #C9A227;"
-        " border-radius: 5px; padding: 2px 8px; margin: 3px 6px 2px 0; }"));
+    chkRepair_->setStyleSheet(
+        QStringLiteral("QCheckBox { background: #F6E7C1; color: #2B1D14; border: 1px solid #C9A227;"
+                       " border-radius: 5px; padding: 2px 8px; margin: 3px 6px 2px 0; }"));
     connect(chkRepair_, &QCheckBox::clicked, this, [this](bool on) {
         click();
         game_.arcades.setAutoRepair(on);
@@ -375,14 +216,16 @@ void frmArcade::buildDetails(QWidget* parent) {
     lblGameDetailsNum_->setAlignment(Qt::AlignCenter);
     look::paint(lblGameDetailsNum_, look::navy, look::popcorn);
 
-    imgGameExample_ = makeLabel(d, QStringLiteral("imgGameExample"), {}, QRect(8, 38, 64, 96), plain);
+    imgGameExample_ =
+        makeLabel(d, QStringLiteral("imgGameExample"), {}, QRect(8, 38, 64, 96), plain);
     imgGameExample_->setAccessibleName(QStringLiteral("Cabinet style"));
     imgGameExample_->setAlignment(Qt::AlignCenter);
 
     // The price drop-down and the first three figures, right of the picture.
     auto header = [&](int i, const QRect& r) {
         return makeLabel(d, QStringLiteral("lblDetlHeader_%1").arg(i),
-                         QString::fromLatin1(arcadeDetailHeaders[static_cast<std::size_t>(i)]), r, bold);
+                         QString::fromLatin1(arcadeDetailHeaders[static_cast<std::size_t>(i)]), r,
+                         bold);
     };
     auto value = [&](const char* name, int i, const QRect& r) {
         QLabel* v = makeLabel(d, QString::fromLatin1(name), {}, r, plain);
@@ -417,9 +260,9 @@ void frmArcade::buildDetails(QWidget* parent) {
                                QRect(sliderLeft, sliderTop, sliderWidth, sliderHeight), bold);
     lblSliderBack_->setAccessibleName(QStringLiteral("Cabinet style"));
     lblSliderBack_->setIndent(6);
-    lblSliderBack_->setStyleSheet(QStringLiteral(
-        "QLabel { background: #E9D7A8; color: #7A1620; border: 1px solid #C9A227;"
-        " border-radius: 3px; }"));
+    lblSliderBack_->setStyleSheet(
+        QStringLiteral("QLabel { background: #E9D7A8; color: #7A1620; border: 1px solid #C9A227;"
+                       " border-radius: 3px; }"));
     lnSlider_ = new SliderLine(*this, d);
     lnSlider_->setGeometry(sliderLeft - 4, sliderTop - 4, sliderWidth + 8, sliderHeight + 8);
     lblSliderTop_ = makeLabel(d, QStringLiteral("lblSliderTop"), {},
@@ -429,9 +272,9 @@ void frmArcade::buildDetails(QWidget* parent) {
     lblSliderTop_->setToolTip(QString::fromLatin1(arcadeSliderCaption));
     lblSliderTop_->setFocusPolicy(Qt::TabFocus); // the arrow keys step through the styles
     lblSliderTop_->installEventFilter(this);
-    auto* caption = makeLabel(d, QStringLiteral("Label1"), QString::fromLatin1(arcadeSliderCaption),
-                              QRect(sliderLeft, sliderTop + sliderHeight + 4, sliderWidth, 14),
-                              look::font(7));
+    auto* caption =
+        makeLabel(d, QStringLiteral("Label1"), QString::fromLatin1(arcadeSliderCaption),
+                  QRect(sliderLeft, sliderTop + sliderHeight + 4, sliderWidth, 14), look::font(7));
     caption->setAlignment(Qt::AlignCenter);
 
     // The money figures, one row each.
@@ -439,8 +282,9 @@ void frmArcade::buildDetails(QWidget* parent) {
         const char* name;
         int header; // index into the headers; -1: Label2
     };
-    const Row rows[6] = {{"lblDetailsPaid", 4},  {"lblDetailsRepairs", 5}, {"lblDetailsPlays", 6},
-                         {"lblDetailsIncome", 7}, {"lblDetailsProfit", 8},  {"lblDetailsValue", -1}};
+    const Row rows[6] = {{"lblDetailsPaid", 4},   {"lblDetailsRepairs", 5},
+                         {"lblDetailsPlays", 6},  {"lblDetailsIncome", 7},
+                         {"lblDetailsProfit", 8}, {"lblDetailsValue", -1}};
     QLabel* made[6] = {};
     for (int r = 0; r < 6; ++r) {
         const int top = 190 + r * 16;
@@ -468,17 +312,20 @@ void frmArcade::buildDetails(QWidget* parent) {
 
     // The buttons: Repair only while broken, and on the left button; Sell and Close on any.
     const int buttonTop = 288, buttonHeight = 21;
-    lbcRepair_ = new ButtonLabel(QStringLiteral("lbcRepair"), QString::fromLatin1(arcadeRepairButton), d);
+    lbcRepair_ =
+        new ButtonLabel(QStringLiteral("lbcRepair"), QString::fromLatin1(arcadeRepairButton), d);
     lbcRepair_->setGeometry(8, buttonTop, 76, buttonHeight);
     lbcRepair_->setColours(fromBgr(arcadeRepairColour), look::ink);
     connect(lbcRepair_, &ButtonLabel::clicked, this,
             [this] { game_.arcades.repairGame(game_.arcades.detailsNum); });
-    lbcSell_ = new AnyButtonLabel(QStringLiteral("lbcSell"), QString::fromLatin1(arcadeSellButton), d);
+    lbcSell_ =
+        new AnyButtonLabel(QStringLiteral("lbcSell"), QString::fromLatin1(arcadeSellButton), d);
     lbcSell_->setGeometry(92, buttonTop, 82, buttonHeight);
     lbcSell_->setColours(fromBgr(arcadeSellColour), look::ink);
     connect(lbcSell_, &ButtonLabel::clicked, this,
             [this] { game_.arcades.sellGame(game_.arcades.detailsNum); });
-    lbcClose_ = new AnyButtonLabel(QStringLiteral("lbcClose"), QString::fromLatin1(arcadeCloseButton), d);
+    lbcClose_ =
+        new AnyButtonLabel(QStringLiteral("lbcClose"), QString::fromLatin1(arcadeCloseButton), d);
     lbcClose_->setGeometry(182, buttonTop, 72, buttonHeight);
     lbcClose_->setColours(fromBgr(arcadeSellColour), look::ink);
     connect(lbcClose_, &ButtonLabel::clicked, this, [this] { game_.arcades.closeDetailsPanel(); });
@@ -531,7 +378,8 @@ void frmArcade::paintBuyGrid() {
     grdBuyGames_->setRowCount(static_cast<int>(rows.size()) - 1);
     for (std::size_t r = 1; r < rows.size(); ++r)
         for (int c = 0; c < 3; ++c) {
-            auto* item = new QTableWidgetItem(QString::fromStdString(rows[r][static_cast<std::size_t>(c)]));
+            auto* item =
+                new QTableWidgetItem(QString::fromStdString(rows[r][static_cast<std::size_t>(c)]));
             item->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
             grdBuyGames_->setItem(static_cast<int>(r) - 1, c, item);
         }
@@ -635,9 +483,10 @@ const QPixmap& frmArcade::cabinetPixmap(const std::string& path, qreal ratio) {
         const QSize logical = image.size();
         if (ratio > 1.01) {
             QFileInfo info(file);
-            const QImage large = QImageReader(info.dir().filePath(info.completeBaseName() + QStringLiteral("@2x.") +
-                                                                   info.suffix()))
-                                     .read();
+            const QImage large =
+                QImageReader(info.dir().filePath(info.completeBaseName() + QStringLiteral("@2x.") +
+                                                 info.suffix()))
+                    .read();
             if (!large.isNull())
                 image = large;
         }
@@ -699,8 +548,9 @@ void frmArcade::updateCabinet(int index) {
 }
 
 void frmArcade::destroyCabinet(int index) {
-    for (QWidget* w : {static_cast<QWidget*>(imgGame_.count(index) ? imgGame_[index] : nullptr),
-                       static_cast<QWidget*>(lblGameName_.count(index) ? lblGameName_[index] : nullptr)}) {
+    for (QWidget* w :
+         {static_cast<QWidget*>(imgGame_.count(index) ? imgGame_[index] : nullptr),
+          static_cast<QWidget*>(lblGameName_.count(index) ? lblGameName_[index] : nullptr)}) {
         if (!w)
             continue;
         w->hide();
@@ -755,7 +605,8 @@ void frmArcade::cabinetDoubleClick(int index) {
 }
 
 void frmArcade::cabinetNudge(int index, int dxTwips, int dyTwips) {
-    game_.arcades.moveCabinet(index, static_cast<float>(dxTwips), static_cast<float>(dyTwips), 0, 0);
+    game_.arcades.moveCabinet(index, static_cast<float>(dxTwips), static_cast<float>(dyTwips), 0,
+                              0);
 }
 
 // The slider: down takes hold (with the click), each move shows the style of where the handle
@@ -779,8 +630,9 @@ bool frmArcade::eventFilter(QObject* watched, QEvent* event) {
             const int key = static_cast<QKeyEvent*>(event)->key();
             if (key != Qt::Key_Left && key != Qt::Key_Right)
                 break;
-            const int style = std::clamp(lblSliderBack_->text().toInt() + (key == Qt::Key_Left ? -1 : 1), 1,
-                                         std::max(1, int(game_.math.arcadeimages)));
+            const int style =
+                std::clamp(lblSliderBack_->text().toInt() + (key == Qt::Key_Left ? -1 : 1), 1,
+                           std::max(1, int(game_.math.arcadeimages)));
             setSliderPosition(style);
             game_.arcades.previewCabinet(style);
             sliderRelease();
@@ -837,7 +689,7 @@ void frmArcade::addScreenshots(Screenshots& shots) {
         }
         g.switchMode(3);
         // Where the player has set them: three left of the door, three right of it.
-        const float places[6][2] = {{700, 1850}, {1900, 3150}, {3000, 1900},
+        const float places[6][2] = {{700, 1850},  {1900, 3150}, {3000, 1900},
                                     {6100, 1850}, {7900, 2300}, {3900, 3150}};
         for (int i = 1; i <= a.getMachineCount() && i <= 6; ++i) {
             const arcadeCabinet& c = a.room.cabinet(i);
@@ -853,9 +705,8 @@ void frmArcade::addScreenshots(Screenshots& shots) {
         }
         // The nearer a cabinet stands, the more it is in front.
         std::vector<int> byDepth = a.room.indexes();
-        std::sort(byDepth.begin(), byDepth.end(), [&a](int l, int r) {
-            return a.room.cabinet(l).top < a.room.cabinet(r).top;
-        });
+        std::sort(byDepth.begin(), byDepth.end(),
+                  [&a](int l, int r) { return a.room.cabinet(l).top < a.room.cabinet(r).top; });
         for (const int i : byDepth) {
             if (imgGame_.count(i)) {
                 imgGame_[i]->raise();

@@ -35,7 +35,7 @@ class SliderLine;
 // - A double click on a row of the market buys that game, and the room comes to the front.
 class frmArcade : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmArcade(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 
     void attach(QtScreen& screen) override;
@@ -59,10 +59,10 @@ public:
     // file cannot be read (that cabinet then stands without a picture).
     const QPixmap& cabinetPixmap(const std::string& path, qreal ratio);
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void build();
     void buildDetails(QWidget* parent);
     void paintRoom();

@@ -26,9 +26,10 @@ namespace {
 
 // Sends a mouse event straight to a widget at one of its points; a move holds `button`.
 void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPointF at) {
-    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
-    QMouseEvent e(type, at, w->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button, held,
-                  Qt::NoModifier);
+    const Qt::MouseButtons held =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+    QMouseEvent e(type, at, w->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
+                  held, Qt::NoModifier);
     QApplication::sendEvent(w, &e);
 }
 
@@ -67,13 +68,17 @@ class ArcadeTest : public QObject {
 
     Game& game() { return p->game(); }
     arcadeManager& arcades() { return game().arcades; }
-    template <class T = QWidget> T* control(const QString& name) { return PlayingWindow::control<T>(screen, name); }
+    template <class T = QWidget> T* control(const QString& name) {
+        return PlayingWindow::control<T>(screen, name);
+    }
     QWidget* cabinet(int i) { return control(QStringLiteral("imgGame_%1").arg(i)); }
     QLabel* title(int i) { return control<QLabel>(QStringLiteral("lblGameName_%1").arg(i)); }
     QString text(const char* name) { return control<QLabel>(QString::fromLatin1(name))->text(); }
     void flush() { QApplication::processEvents(); }
     // Where a widget stands among the room's pictures: higher is nearer the front.
-    int stackPlace(QWidget* w) { return static_cast<int>(w->parentWidget()->children().indexOf(w)); }
+    int stackPlace(QWidget* w) {
+        return static_cast<int>(w->parentWidget()->children().indexOf(w));
+    }
     // Buys the first `n` games of the market (buying more when it runs out).
     void buy(int n) {
         game().finances.setFunds(1e6);
@@ -89,7 +94,7 @@ class ArcadeTest : public QObject {
         flush();
     }
 
-private slots:
+  private slots:
     void init() {
         p = std::make_unique<PlayingWindow>();
         screen = static_cast<frmArcade*>(p->show(3));
@@ -137,10 +142,12 @@ private slots:
         QCOMPARE(room.cabinet(3).left, before - 30000);
         const QRect shown = cabinet(3)->geometry();
         QVERIFY(shown.intersects(control(QStringLiteral("picRoom"))->rect()));
-        mouse(cabinet(3), QEvent::MouseButtonPress, Qt::LeftButton, {double(shown.width() - 5), 30});
+        mouse(cabinet(3), QEvent::MouseButtonPress, Qt::LeftButton,
+              {double(shown.width() - 5), 30});
         for (int s = 1; s <= 4; ++s)
             mouse(cabinet(3), QEvent::MouseMove, Qt::LeftButton,
-                  QPointF(shown.width() - 5 + 500.0 * s, 30) + QPointF(shown.topLeft() - cabinet(3)->pos()));
+                  QPointF(shown.width() - 5 + 500.0 * s, 30) +
+                      QPointF(shown.topLeft() - cabinet(3)->pos()));
         mouse(cabinet(3), QEvent::MouseButtonRelease, Qt::LeftButton, {5, 5});
         QCOMPARE(room.cabinet(3).left, before);
 
@@ -169,7 +176,11 @@ private slots:
         const int right = (top->x() + top->width()) * 15;
         const int images = game().math.arcadeimages;
         // The mouse at the handle place of a style, in the track's own pixels.
-        auto at = [&](int style) { return QPointF(arcadeSliderX(top->x() * 15, top->width() * 15, style, images) / 15.0 - top->x(), 5); };
+        auto at = [&](int style) {
+            return QPointF(arcadeSliderX(top->x() * 15, top->width() * 15, style, images) / 15.0 -
+                               top->x(),
+                           5);
+        };
         QCOMPARE(screen->sliderTopX(), arcadeSliderX(top->x() * 15, top->width() * 15, 1, images));
 
         mouse(top, QEvent::MouseButtonPress, Qt::LeftButton, at(1));
@@ -177,8 +188,9 @@ private slots:
         for (const int style : {4, 6, 2}) {
             mouse(top, QEvent::MouseMove, Qt::LeftButton, at(style));
             QCOMPARE(text("lblSliderBack").toInt(), shownBefore);
-            QCOMPARE(sample->pixmap().cacheKey(),
-                     screen->cabinetPixmap(arcades().cabinetPath(shownBefore, false), 1.0).cacheKey());
+            QCOMPARE(
+                sample->pixmap().cacheKey(),
+                screen->cabinetPixmap(arcades().cabinetPath(shownBefore, false), 1.0).cacheKey());
             QCOMPARE(arcades().myGameAt(1).CabinetImageFileNumber, 1);
             QVERIFY(screen->sliderTopX() != screen->sliderBottomX());
             shownBefore = arcadeSliderStyle(screen->sliderTopX(), right, images);
@@ -200,7 +212,8 @@ private slots:
         auto* repair = control(QStringLiteral("lbcRepair"));
         QVERIFY(repair->isVisible());
         QCOMPARE(text("lblDetailsCondition"), QStringLiteral("Broken"));
-        QCOMPARE(control(QStringLiteral("lblDetailsCondition"))->palette().color(QPalette::Window), QColor(255, 0, 0));
+        QCOMPARE(control(QStringLiteral("lblDetailsCondition"))->palette().color(QPalette::Window),
+                 QColor(255, 0, 0));
         QCOMPARE(title(1)->palette().color(QPalette::WindowText), QColor(255, 0, 0));
         press(repair, Qt::RightButton);
         QVERIFY(one.IamBroke);
@@ -210,7 +223,8 @@ private slots:
         QVERIFY(!repair->isVisible());
         QCOMPARE(text("lblDetailsCondition"), QStringLiteral("Working"));
         QCOMPARE(title(1)->palette().color(QPalette::WindowText), QColor(128, 255, 255));
-        QCOMPARE(control(QStringLiteral("lblDetailsCondition"))->palette().color(QPalette::Window), QColor(255, 255, 128));
+        QCOMPARE(control(QStringLiteral("lblDetailsCondition"))->palette().color(QPalette::Window),
+                 QColor(255, 255, 128));
 
         auto* sell = control(QStringLiteral("lbcSell"));
         const std::string second = arcades().myGameAt(2).getName();
