@@ -3,6 +3,8 @@
 #include "arcade/arcadeManager.h"
 #include "core/Toolbox.h"
 
+#include <cmath>
+
 namespace zorvane {
 
 std::vector<std::array<std::string, 3>> arcadeBuyGrid(const arcadeManager& arcades) {
@@ -26,6 +28,7 @@ ArcadeDetails arcadeDetails(const arcadeManager& arcades) {
     d.age = digitsOnly(std::to_string(m.Age)) + " months";
     d.broken = m.IamBroke;
     d.condition = m.IamBroke ? "Broken" : "Working";
+    d.conditionBack = m.IamBroke ? arcadeConditionBroken : arcadeConditionWorking;
     d.paid = formatMoney(m.OriginalPrice);
     d.repairs = formatMoney(m.RepairBillsTotal);
     d.plays = numberText(m.TotalPlays);
@@ -36,6 +39,22 @@ ArcadeDetails arcadeDetails(const arcadeManager& arcades) {
     d.style = m.CabinetImageFileNumber;
     d.picture = room.exists(m.getNum()) ? room.cabinet(m.getNum()).picture : std::string();
     return d;
+}
+
+int arcadeSliderX(double trackLeft, double trackWidth, int style, int images) {
+    if (images < 1)
+        return static_cast<int>(std::floor(trackLeft));
+    return static_cast<int>(std::floor((trackWidth + trackLeft) * style / images));
+}
+
+int arcadeSliderStyle(double x, double trackRight, int images) {
+    if (images < 1)
+        return 0;
+    // A track of no width (or a handle at its very start) stands for the first style.
+    const double raw = trackRight > 0 ? std::floor(x * images / trackRight) : 1.0;
+    if (!(raw >= 1)) // NaN too
+        return 1;
+    return raw > images ? images : static_cast<int>(raw);
 }
 
 } // namespace zorvane

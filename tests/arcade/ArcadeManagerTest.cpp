@@ -374,6 +374,7 @@ TEST_F(Room, DetailsViewTexts) {
     EXPECT_EQ(d.pop, "50");
     EXPECT_EQ(d.age, "12 months");
     EXPECT_EQ(d.condition, "Working");
+    EXPECT_EQ(d.conditionBack, 0xFFFF80u);
     EXPECT_EQ(d.paid, "$2,000");
     EXPECT_EQ(d.repairs, "$120");
     EXPECT_EQ(d.plays, "1500");
@@ -381,6 +382,33 @@ TEST_F(Room, DetailsViewTexts) {
     EXPECT_EQ(d.profit, "-$1,739.50");
     EXPECT_EQ(d.value, "$2,000");
     EXPECT_EQ(d.priceIndex, 2);
+    a.IamBroke = true;
+    const ArcadeDetails broken = arcadeDetails(am());
+    EXPECT_EQ(broken.condition, "Broken");
+    EXPECT_EQ(broken.conditionBack, 0xFF0000u);
+    EXPECT_EQ(broken.value, "$500");
+}
+
+// The style slider: where the handle stands for a style, and which style a handle's place
+// stands for, on a track from 120 to 2520 twips with six styles.
+TEST(ArcadeSlider, HandlePlaceAndStyle) {
+    struct Place {
+        int style, x;
+    };
+    for (const Place p : {Place{1, 420}, Place{3, 1260}, Place{6, 2520}, Place{9, 3780}})
+        EXPECT_EQ(arcadeSliderX(120, 2400, p.style, 6), p.x) << p.style;
+    struct Style {
+        double x;
+        int style;
+    };
+    for (const Style s : {Style{0, 1}, Style{120, 1}, Style{839, 1}, Style{840, 2}, Style{2099, 4},
+                          Style{2520, 6}, Style{9000, 6}, Style{-50, 1}})
+        EXPECT_EQ(arcadeSliderStyle(s.x, 2520, 6), s.style) << s.x;
+    // A style's own handle place gives the style back.
+    for (int style = 1; style <= 6; ++style)
+        EXPECT_EQ(arcadeSliderStyle(arcadeSliderX(120, 2400, style, 6), 2520, 6), style);
+    EXPECT_EQ(arcadeSliderStyle(100, 2520, 0), 0); // no styles: no division
+    EXPECT_EQ(arcadeSliderStyle(100, 0, 6), 1);
 }
 
 } // namespace
