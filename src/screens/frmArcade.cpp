@@ -90,10 +90,7 @@ frmArcade::frmArcade(Game& game, std::uint32_t bgr, QWidget* parent)
     build();
 }
 
-void frmArcade::click() {
-    if (ButtonLabel::clickSound)
-        ButtonLabel::clickSound();
-}
+void frmArcade::click() { routeClick(this); }
 
 // --- building the controls ---
 
@@ -109,7 +106,7 @@ void frmArcade::build() {
         " border-top-right-radius: 5px; }"
         "QTabBar::tab:selected { background: #B3262E; color: #F2C14E; }"
         "QTabBar::tab:!selected:hover { background: #2B3B5E; }"));
-    connect(SSTab1_->tabBar(), &QTabBar::tabBarClicked, this, [] { click(); });
+    connect(SSTab1_->tabBar(), &QTabBar::tabBarClicked, this, [this] { click(); });
 
     chkRepair_ = new QCheckBox(QString::fromLatin1(arcadeRepairCaption));
     chkRepair_->setObjectName(QStringLiteral("chkRepair"));

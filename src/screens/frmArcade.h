@@ -78,7 +78,7 @@ class frmArcade : public ChildFrame {
     // The mouse's place relative to a cabinet's own corner, in twips, from the logic's
     // rectangle (a cabinet shown clipped at the room's edge still drags by its true place).
     QPointF cabinetPoint(int index, QMouseEvent* e) const;
-    static void click();
+    void click();
 
     QTabWidget* SSTab1_ = nullptr;
     QCheckBox* chkRepair_ = nullptr;
