@@ -140,6 +140,7 @@ frmConcessions::frmConcessions(Game& game, std::uint32_t bgr, QWidget* parent)
 QWidget* frmConcessions::buildPricesTab() {
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("tabPrices"));
+    page->setAutoFillBackground(true); // the screen's own colour inside the tab
     for (std::size_t c = 0; c < priceColumns.size(); ++c)
         columnHeader(page, concessionPriceColumns[c], priceColumns[c]);
     ConcessionManager& stand = game_.concessions;
@@ -190,6 +191,7 @@ QWidget* frmConcessions::buildPricesTab() {
 QWidget* frmConcessions::buildStockTab() {
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("tabStock"));
+    page->setAutoFillBackground(true); // the screen's own colour inside the tab
     for (std::size_t c = 0; c < stockColumns.size(); ++c)
         columnHeader(page, concessionStockColumns[c], stockColumns[c]);
     for (int i = 0; i < itemCount; ++i) {
