@@ -43,6 +43,9 @@ class ConcessionsTest : public QObject {
                 {QStringLiteral("lblCostPerItem_%1"), s.costPerItem}, {QStringLiteral("lblTotalCost_%1"), s.totalCost}};
             for (const auto& [name, text] : labels)
                 QCOMPARE(shown(name.arg(i)), QString::fromStdString(text));
+            auto* picture = PlayingWindow::control<QLabel>(screen, QStringLiteral("imgConcession_%1").arg(i));
+            QCOMPARE(picture->toolTip(), QString::fromStdString(l.tip));
+            QVERIFY(!picture->pixmap().isNull());
             QCOMPARE(box("txtPrice", i)->text(), QString::fromStdString(l.price));
             QCOMPARE(box("txtBuyPerMonth", i)->text(), QString::fromStdString(s.buyPerMonth));
             QCOMPARE(PlayingWindow::control<QComboBox>(screen, QStringLiteral("cmbQuality_%1").arg(i))->currentIndex(),
