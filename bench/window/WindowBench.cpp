@@ -1,7 +1,8 @@
 // Benchmarks of the game window, offscreen (Google Benchmark): a day at Fast with the main
-// screen and the log window showing, repaint included; start-up to the title screen painted,
-// silent and with the game's sound port; making the sound players after it; one line added to
-// a log window that holds 20,000.
+// screen and the log window showing, repaint included; the same with the arcade and concession
+// screens up and 20 machines; start-up to the title screen painted, silent and with the game's
+// sound port; making the sound players after it; one line added to a log window that holds
+// 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "Commands.h"
 #include "GameApplication.h"
@@ -9,8 +10,10 @@
 #include "AroundScreens.h"
 #include "frmLoader.h"
 #include "frmLog.h"
+#include "frame/ChildFrame.h"
 #include "frmMain.h"
 #include "ports/QtSound.h"
+#include "session/Game.h"
 
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -90,6 +93,63 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
 }
 // Argument 1: the log window shows too (the goal's case); 0: the main screen alone.
 BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// A day at Fast with the arcade and concession screens up and 20 machines in the room (made
+// to hold 20, as a player's math file may allow), in a theater that stays in business: every
+// crowd plays the machines and passes the stand, and both screens repaint what changed.
+void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
+    Window window(true);
+    Game& game = window.w->game();
+    game.math.arcademax = 20;
+    // A prosperous theater, in business all year: a fortune, and stand orders that three
+    // years of buying cannot push past the stock's 16 bits.
+    game.finances.setFunds(1e6);
+    for (int i = 0; i < ConcessionManager::itemCount; ++i)
+        game.concessions.setItemBuyQuant(i, 400);
+    arcadeManager& arcades = game.arcades;
+    for (int tries = 0; arcades.getMachineCount() < 20 && tries < 10000; ++tries) {
+        if (arcades.buyGames.empty())
+            arcades.releaseRandomGame();
+        else
+            arcades.buyGame(1);
+    }
+    if (arcades.getMachineCount() < 20) {
+        state.SkipWithError("could not buy 20 machines");
+        return;
+    }
+    game.switchMode(3);
+    game.switchMode(4);
+    int pictures = 0;
+    window.w->screen().onShowLose = [&pictures] { ++pictures; };
+    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
+    // How often the stand's rows repainted, and what it sold: the screens had work to do.
+    int standPaints = 0;
+    long sold = 0;
+    window.w->screen().addPainter(View::ConcessionListing, [&standPaints] { ++standPaints; });
+    game.setSpeed(3);
+    window.w->main().clock()->stop();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        for (int d = 0; d < 336; ++d) {
+            try {
+                game.clockTick();
+            } catch (const std::exception& e) {
+                state.SkipWithError(e.what());
+                return;
+            }
+            QCoreApplication::processEvents();
+            sold += game.concessions.shownTotalSold();
+        }
+    }
+    state.counters["stand_paints"] = standPaints;
+    state.counters["sold"] = static_cast<double>(sold);
+    state.counters["machines"] = arcades.getMachineCount();
+    state.counters["visible"] = window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
+    state.counters["pictures"] = pictures;
+    state.counters["per_day"] = benchmark::Counter(
+        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_DayAtFastWithArcadeAndStand)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // From nothing to the title screen painted: the ports, the game and every window, the
 // whole start-up order, then the first screen shown and painted. Argument 1: with the game's

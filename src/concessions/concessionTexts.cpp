@@ -1,6 +1,7 @@
 #include "concessions/concessionTexts.h"
 
 #include "concessions/ConcessionManager.h"
+#include "core/Numbers.h"
 #include "core/Toolbox.h"
 
 namespace zorvane {
@@ -28,6 +29,10 @@ ConcessionTotals concessionTotals(const ConcessionManager& stand) {
     return {formatMoney(stand.shownTotalMyCost()), std::to_string(stand.shownTotalSold()),
             formatMoneyShort(stand.shownTotalProfit()), formatMoney(stand.monthlyOrderCost()),
             formatMoneyShort(stand.shownIncomeLastMonth())};
+}
+
+int concessionOrderOf(std::string_view typed) {
+    return toInt16(leadingNumber(typed));
 }
 
 } // namespace zorvane

@@ -1,5 +1,7 @@
 #pragma once
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zorvane {
@@ -39,6 +41,23 @@ struct ConcessionTotals {
     std::string totalTotalCost;  // lblTotalTotalCost: the month's whole order
     std::string incomeLastMonth; // lblTotalIncomeLastMonth
 };
+
+// The screen's fixed captions: its header, the two tabs, the column and row headers. The
+// stock tab's last column really is "Total  cost " with two blanks and one behind.
+inline constexpr const char* concessionsHeader = "Concessions";
+inline constexpr std::array<const char*, 2> concessionTabs{"Prices", "Stock"};
+inline constexpr std::array<const char*, 5> concessionPriceColumns{"Quality", "Price", "Your Cost",
+                                                                   "Sold today", "Profit"};
+inline constexpr const char* concessionPriceTotals = "Totals";
+inline constexpr std::array<const char*, 5> concessionStockColumns{
+    "In Stock", "Buy per month", "Last month sales", "Cost per item", "Total  cost "};
+inline constexpr const char* concessionStockTotal = "Total";
+inline constexpr const char* concessionIncomeCaption = "Last Month's Income:";
+
+// What the "Buy per month" box orders when the player has typed `typed`: its leading number
+// (0 if it has none), rounded to nearest with ties to even; a leading minus is kept, so a
+// negative order can be typed. Beyond 16 bits it is the game's overflow error.
+int concessionOrderOf(std::string_view typed);
 
 // An item's row on the "Prices" tab; its picture is found in the program's `folder`.
 ConcessionListing concessionListing(const Concession& item, const std::string& folder);

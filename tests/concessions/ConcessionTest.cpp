@@ -202,3 +202,16 @@ TEST_F(ItemFixture, ALoadedQualityBeyondTheListStillSellsUntilTheTableEnds) {
     item(0).quality = 4;
     EXPECT_THROW(item(0).sell_consider(), GameError);
 }
+
+// What the "Buy per month" box orders for what a player typed: the leading number, ties to
+// even, a minus kept; no digits up front is 0; past 16 bits is the overflow error.
+TEST(ConcessionOrderText, LeadingNumberRoundedHalfToEven) {
+    const struct {
+        const char* typed;
+        int units;
+    } cases[] = {{"12", 12}, {"  2.5", 2}, {"3.5 boxes", 4}, {"-7", -7}, {"-2.5", -2},
+                 {"1,000", 1}, {"$40", 0}, {"", 0}, {"32767", 32767}};
+    for (const auto& c : cases)
+        EXPECT_EQ(concessionOrderOf(c.typed), c.units) << c.typed;
+    EXPECT_THROW(concessionOrderOf("32768"), GameError);
+}
