@@ -267,8 +267,9 @@ private:
         return w->isWindow() ? one(w) : one(w->window()) + "/" + one(w);
     }
 
-    // Every visible, enabled control a player could reach now, in a fixed order.
-    std::vector<QWidget*> targets() {
+    // The windows a player could reach now (the box that stands open, else every window on
+    // the screen), in a fixed order, each with its visible, enabled controls.
+    std::vector<std::vector<QWidget*>> targets() {
         std::vector<QWidget*> windows;
         if (QWidget* m = modalRoot())
             windows.push_back(m);
@@ -280,12 +281,12 @@ private:
             return std::make_tuple(a->objectName(), QString(a->metaObject()->className()), a->y(), a->x()) <
                    std::make_tuple(b->objectName(), QString(b->metaObject()->className()), b->y(), b->x());
         });
-        std::vector<QWidget*> out;
+        std::vector<std::vector<QWidget*>> out;
         for (QWidget* w : windows) {
-            out.push_back(w);
+            out.push_back({w});
             for (QWidget* c : w->findChildren<QWidget*>())
                 if (c->window() == w && c->isVisible() && c->isEnabled())
-                    out.push_back(c);
+                    out.back().push_back(c);
         }
         return out;
     }
@@ -375,13 +376,15 @@ private:
             say("switchMode " + std::to_string(m));
             guarded("switchMode", [&] { p_->game().switchMode(m); });
         } else {
-            const std::vector<QWidget*> all = targets();
+            // A window first, then one of its controls: each open screen gets its share,
+            // however many controls it has.
+            const std::vector<std::vector<QWidget*>> all = targets();
             if (all.empty()) {
                 say("nothing to touch");
                 return;
             }
-            QWidget* w = all[static_cast<std::size_t>(pick(static_cast<int>(all.size())))];
-            touch(w, what);
+            const auto& in = all[static_cast<std::size_t>(pick(static_cast<int>(all.size())))];
+            touch(in[static_cast<std::size_t>(pick(static_cast<int>(in.size())))], what);
         }
         // Days come from the monkey only, so that a seed replays the same game.
         if (p_ && p_->w->main().clock()->isActive())
@@ -527,7 +530,7 @@ private slots:
                 qtTest(t, c, m);
         });
         const std::uint64_t seed = envNumber("ZORVANE_MONKEY_SEED", 2026);
-        const int events = static_cast<int>(envNumber("ZORVANE_MONKEY_EVENTS", 1500));
+        const int events = static_cast<int>(envNumber("ZORVANE_MONKEY_EVENTS", 1000));
         const int stall = static_cast<int>(envNumber("ZORVANE_MONKEY_STALL", 60));
         std::printf("monkey: seed %llu, %d events (replay: ZORVANE_MONKEY_SEED=%llu "
                     "ZORVANE_MONKEY_EVENTS=%d)\n",
