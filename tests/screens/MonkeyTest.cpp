@@ -39,6 +39,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <fstream>
 #include <iterator>
 #include <mutex>
@@ -74,7 +75,7 @@ QWidget* modalRoot() {
 // Fails the run with a message if one event takes too long: a modal loop nothing can close,
 // or a hang. It runs on its own thread, since the game's thread is the one that is stuck.
 class Watchdog {
-public:
+  public:
     explicit Watchdog(int seconds) : limit_(seconds), thread_([this] { watch(); }) {}
     ~Watchdog() {
         stop_ = true;
@@ -86,7 +87,7 @@ public:
         last_ = std::chrono::steady_clock::now();
     }
 
-private:
+  private:
     void watch() {
         while (!stop_) {
             std::this_thread::sleep_for(std::chrono::milliseconds(200));
@@ -108,7 +109,7 @@ private:
 };
 
 class Monkey : public QObject {
-public:
+  public:
     Monkey(std::uint64_t seed, int events, int stall, bool trace)
         : seed_(seed), events_(events), trace_(trace), rng_(seed), watchdog_(stall) {
         auto* app = static_cast<GameApplication*>(qApp);
@@ -134,10 +135,12 @@ public:
         return failure_;
     }
 
-private:
+  private:
     int pick(int n) { return static_cast<int>(rng_() % static_cast<std::uint64_t>(n)); }
     bool chance(int percent) { return pick(100) < percent; }
-    void again() { QTimer::singleShot(0, this, [this] { pump(); }); }
+    void again() {
+        QTimer::singleShot(0, this, [this] { pump(); });
+    }
 
     void startGame() {
         ++games_;
@@ -148,7 +151,9 @@ private:
         closing_ = 0;
         p_->w->around().loader().hide(); // as "Play !" leaves it
         if (trace_)
-            p_->dialogs.onTranscript = [](const std::string& l) { std::printf("monkey:   %s\n", l.c_str()); };
+            p_->dialogs.onTranscript = [](const std::string& l) {
+                std::printf("monkey:   %s\n", l.c_str());
+            };
         // Every mode screen and the log window open, in a random order.
         std::vector<int> modes{0, 1, 2, 3, 4, 5, 6, 7};
         std::shuffle(modes.begin(), modes.end(), rng_);
@@ -217,22 +222,31 @@ private:
         over_ = true;
     }
 
+    // Called where the error is caught: the exception at hand tells the game's own error
+    // from any other.
     void fatal(const QString& message) {
+        if (!std::current_exception()) {
+            fail("a fatal error with no exception: " + message.toStdString());
+            return;
+        }
         try {
-            throw;
+            std::rethrow_exception(std::current_exception());
         } catch (const GameError&) {
             ++fatals_;
-            std::printf("monkey: event %d: the game's run-time error \"%s\" ended game %d\n",
-                        done_, qPrintable(message), games_);
+            std::printf("monkey: event %d: the game's run-time error \"%s\" ended game %d\n", done_,
+                        qPrintable(message), games_);
             over_ = fatalRun_ = true;
         } catch (...) {
-            fail("an exception that is not the game's own reached the top: " + message.toStdString());
+            fail("an exception that is not the game's own reached the top: " +
+                 message.toStdString());
         }
     }
 
     void fail(const std::string& what) {
         const QString text = QString("event %1 (seed %2, game %3): %4; last event: %5")
-                                 .arg(done_).arg(seed_).arg(games_)
+                                 .arg(done_)
+                                 .arg(seed_)
+                                 .arg(games_)
                                  .arg(QString::fromStdString(what), QString::fromStdString(last_));
         std::printf("monkey: FAIL: %s\n", qPrintable(text));
         if (failure_.isEmpty())
@@ -262,7 +276,9 @@ private:
 
     static std::string name(QWidget* w) {
         auto one = [](QWidget* x) {
-            return (x->objectName().isEmpty() ? QString(x->metaObject()->className()) : x->objectName()).toStdString();
+            return (x->objectName().isEmpty() ? QString(x->metaObject()->className())
+                                              : x->objectName())
+                .toStdString();
         };
         return w->isWindow() ? one(w) : one(w->window()) + "/" + one(w);
     }
@@ -278,8 +294,10 @@ private:
                 if (t->isVisible() && t->isEnabled())
                     windows.push_back(t);
         std::sort(windows.begin(), windows.end(), [](QWidget* a, QWidget* b) {
-            return std::make_tuple(a->objectName(), QString(a->metaObject()->className()), a->y(), a->x()) <
-                   std::make_tuple(b->objectName(), QString(b->metaObject()->className()), b->y(), b->x());
+            return std::make_tuple(a->objectName(), QString(a->metaObject()->className()), a->y(),
+                                   a->x()) < std::make_tuple(b->objectName(),
+                                                             QString(b->metaObject()->className()),
+                                                             b->y(), b->x());
         });
         std::vector<std::vector<QWidget*>> out;
         for (QWidget* w : windows) {
@@ -292,7 +310,8 @@ private:
     }
 
     QPoint somewhere(QWidget* w, int outside = 0) {
-        return {pick(w->width() + 2 * outside) - outside, pick(w->height() + 2 * outside) - outside};
+        return {pick(w->width() + 2 * outside) - outside,
+                pick(w->height() + 2 * outside) - outside};
     }
 
     void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPoint at) {
@@ -321,24 +340,25 @@ private:
     // of the keys that move, confirm and cancel.
     void randomKey(QWidget* w) {
         static const char characters[] = "0123456789$,-.0123456789abcxyzQS ";
-        static const int specials[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Escape,
-                                       Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Down,
-                                       Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
-                                       Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_F1};
+        static const int specials[] = {
+            Qt::Key_Return,    Qt::Key_Enter,    Qt::Key_Tab,   Qt::Key_Escape,
+            Qt::Key_Backspace, Qt::Key_Delete,   Qt::Key_Up,    Qt::Key_Down,
+            Qt::Key_Left,      Qt::Key_Right,    Qt::Key_Home,  Qt::Key_End,
+            Qt::Key_PageUp,    Qt::Key_PageDown, Qt::Key_Space, Qt::Key_F1};
         if (chance(40)) {
             const int k = specials[pick(std::size(specials))];
             const QString text = k == Qt::Key_Return || k == Qt::Key_Enter ? "\r"
-                               : k == Qt::Key_Tab                         ? "\t"
-                               : k == Qt::Key_Escape                      ? "\x1b"
-                               : k == Qt::Key_Space                       ? " "
-                                                                          : "";
+                                 : k == Qt::Key_Tab                        ? "\t"
+                                 : k == Qt::Key_Escape                     ? "\x1b"
+                                 : k == Qt::Key_Space                      ? " "
+                                                                           : "";
             key(w, k, text);
             return;
         }
         const char c = characters[pick(sizeof characters - 1)];
-        const int code = c >= 'a' && c <= 'z' ? Qt::Key_A + (c - 'a')
-                       : c >= 'A' && c <= 'Z' ? Qt::Key_A + (c - 'A')
-                                              : static_cast<int>(static_cast<unsigned char>(c));
+        const int code = c >= 'a' && c <= 'z'   ? Qt::Key_A + (c - 'a')
+                         : c >= 'A' && c <= 'Z' ? Qt::Key_A + (c - 'A')
+                                                : static_cast<int>(static_cast<unsigned char>(c));
         key(w, code, (mods_ & Qt::ControlModifier) ? QString() : QString(QChar(c)));
     }
 
@@ -350,14 +370,27 @@ private:
         d.files.clear();
         for (int i = 0; i < 3; ++i) {
             d.answers.push_back(static_cast<Answer>(pick(4)));
-            static const char* const texts[] = {"", "0", "1", "7", "12", "250", "5000", "-3",
-                                                "$1,234.50", "abc", " 42xyz", "1e308",
-                                                "99999999999999999999", "32768", "65536", "3.75"};
+            static const char* const texts[] = {"",
+                                                "0",
+                                                "1",
+                                                "7",
+                                                "12",
+                                                "250",
+                                                "5000",
+                                                "-3",
+                                                "$1,234.50",
+                                                "abc",
+                                                " 42xyz",
+                                                "1e308",
+                                                "99999999999999999999",
+                                                "32768",
+                                                "65536",
+                                                "3.75"};
             const int t = pick(static_cast<int>(std::size(texts)) + 1);
             d.inputs.push_back(t < static_cast<int>(std::size(texts)) ? std::string(texts[t])
                                                                       : std::string(20000, '9'));
-            static const char* const files[] = {"", "monkey.zvn", "other.zvn", "junk.zvn",
-                                                "missing/none.zvn", "."};
+            static const char* const files[] = {"",         "monkey.zvn",       "other.zvn",
+                                                "junk.zvn", "missing/none.zvn", "."};
             const char* f = files[pick(std::size(files))];
             d.files.push_back(*f ? dir_.filePath(f).toStdString() : std::string());
         }
@@ -406,10 +439,13 @@ private:
     }
 
     void touch(QWidget* w, int what) {
-        const Qt::MouseButton button = chance(80) ? Qt::LeftButton : chance(70) ? Qt::RightButton : Qt::MiddleButton;
+        const Qt::MouseButton button = chance(80)   ? Qt::LeftButton
+                                       : chance(70) ? Qt::RightButton
+                                                    : Qt::MiddleButton;
         const QPoint at = somewhere(w);
         QPointer<QWidget> to(w);
-        const std::string where = name(w) + " at " + std::to_string(at.x()) + "," + std::to_string(at.y());
+        const std::string where =
+            name(w) + " at " + std::to_string(at.x()) + "," + std::to_string(at.y());
         if (what < 40) {
             say("click " + where);
             mouse(w, QEvent::MouseButtonPress, button, at);
@@ -521,14 +557,15 @@ private:
 class MonkeyTest : public QObject {
     Q_OBJECT
 
-private slots:
+  private slots:
     void randomEventsLeaveAGameThatSavesAndLoadsAlike() {
         // The offscreen platform says, for every window brought to the front, that it cannot.
         static QtMessageHandler qtTest = nullptr;
-        qtTest = qInstallMessageHandler([](QtMsgType t, const QMessageLogContext& c, const QString& m) {
-            if (!m.startsWith(QLatin1String("This plugin does not support")))
-                qtTest(t, c, m);
-        });
+        qtTest =
+            qInstallMessageHandler([](QtMsgType t, const QMessageLogContext& c, const QString& m) {
+                if (!m.startsWith(QLatin1String("This plugin does not support")))
+                    qtTest(t, c, m);
+            });
         const std::uint64_t seed = envNumber("ZORVANE_MONKEY_SEED", 2026);
         const int events = static_cast<int>(envNumber("ZORVANE_MONKEY_EVENTS", 1000));
         const int stall = static_cast<int>(envNumber("ZORVANE_MONKEY_STALL", 60));
