@@ -1,8 +1,9 @@
 // Benchmarks of the game window, offscreen (Google Benchmark): a day at Fast with the main
 // screen and the log window showing, repaint included; the same with the arcade and concession
-// screens up and 20 machines; start-up to the title screen painted, silent and with the game's
-// sound port; making the sound players after it; one line added to a log window that holds
-// 20,000.
+// screens up and 20 machines, and with every mode screen open; resident memory over ten game
+// years with every screen open; start-up to the title screen painted, silent and with the
+// game's sound port; making the sound players after it; one line added to a log window that
+// holds 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "Commands.h"
 #include "GameApplication.h"
@@ -20,9 +21,14 @@
 
 #include <benchmark/benchmark.h>
 
+#include <unistd.h>
+
+#include <cstdio>
 #include <fstream>
 #include <memory>
 #include <sstream>
+#include <string>
+#include <vector>
 
 using namespace zorvane;
 using namespace zorvane::screens;
@@ -47,6 +53,7 @@ struct Window {
         if (withDemo) {
             w->game().startPlay(-1);
             w->showMain(); // a staffed theater in business: the demo script's month
+            w->around().loader().hide(); // as "Play !" leaves the title screen
             std::ifstream script(ZORVANE_SOURCE_DATA "/demo.txt");
             std::ostringstream out;
             sim::playScript(w->game(), dialogs, script, out);
@@ -56,7 +63,49 @@ struct Window {
         log = &w->around().log();
         log->show();
     }
+    // Every window a player can have open at once: the eight mode screens (each shown
+    // through its mode, the last one glued under the main screen) and the log window.
+    void showEverything() {
+        for (int m = 0; m < 8; ++m)
+            w->game().switchMode(m);
+        showLog();
+    }
+    // The clock at Fast with the benchmark as its timer; a lost game or a reached goal
+    // would wait for a double click on its picture, so here they only count.
+    void runAtFast(int& pictures) {
+        w->screen().onShowLose = [&pictures] { ++pictures; };
+        w->screen().onShowGoal = [&pictures] { ++pictures; };
+        w->game().setSpeed(3);
+        w->main().clock()->stop();
+        QCoreApplication::processEvents();
+    }
 };
+
+// A game year at Fast, day by day: the tick, then the event loop's pass that repaints every
+// stale view once and paints the windows. False with the error when the game ends in one.
+bool runYear(Game& game, benchmark::State& state) {
+    for (int d = 0; d < 336; ++d) {
+        try {
+            game.clockTick();
+        } catch (const std::exception& e) {
+            state.SkipWithError(e.what());
+            return false;
+        }
+        QCoreApplication::processEvents();
+    }
+    return true;
+}
+
+// The process's resident memory now, in megabytes.
+double residentMegabytes() {
+    long pages = 0, resident = 0;
+    if (FILE* f = std::fopen("/proc/self/statm", "r")) {
+        if (std::fscanf(f, "%ld %ld", &pages, &resident) != 2)
+            resident = 0;
+        std::fclose(f);
+    }
+    return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1048576.0;
+}
 
 // One game day as the clock runs it at Fast: the tick, then the event loop's pass that
 // repaints every stale view once and paints both windows.
@@ -64,28 +113,12 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
     Window window(true);
     if (state.range(0) != 0)
         window.showLog();
-    Game& game = window.w->game();
-    // A year of the demo theater may end in a lost game: the picture would wait for a
-    // double click, so here it only counts.
+    // A year of the demo theater may end in a lost game.
     int pictures = 0;
-    window.w->screen().onShowLose = [&pictures] { ++pictures; };
-    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
-    game.setSpeed(3);
-    window.w->main().clock()->stop(); // the benchmark is the clock
-    QCoreApplication::processEvents();
-    for (auto _ : state) {
-        // A game year per round: the figure is the mean of its 336 days.
-        for (int d = 0; d < 336; ++d) {
-            try {
-                game.clockTick();
-            } catch (const std::exception& e) {
-                state.SkipWithError(e.what());
-                return;
-            }
-            // The pass that follows: stale views repainted once, both windows painted.
-            QCoreApplication::processEvents();
-        }
-    }
+    window.runAtFast(pictures);
+    for (auto _ : state)
+        if (!runYear(window.w->game(), state))
+            return;
     // Seconds per day, printed with its unit (e.g. 450u is 0.45 ms).
     state.counters["pictures"] = pictures;
     state.counters["per_day"] = benchmark::Counter(
@@ -119,30 +152,15 @@ void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
     }
     game.switchMode(3);
     game.switchMode(4);
-    int pictures = 0;
-    window.w->screen().onShowLose = [&pictures] { ++pictures; };
-    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
-    // How often the stand's rows repainted, and what it sold: the screens had work to do.
+    // How often the stand's rows repainted: the screens had work to do.
     int standPaints = 0;
-    long sold = 0;
     window.w->screen().addPainter(View::ConcessionListing, [&standPaints] { ++standPaints; });
-    game.setSpeed(3);
-    window.w->main().clock()->stop();
-    QCoreApplication::processEvents();
-    for (auto _ : state) {
-        for (int d = 0; d < 336; ++d) {
-            try {
-                game.clockTick();
-            } catch (const std::exception& e) {
-                state.SkipWithError(e.what());
-                return;
-            }
-            QCoreApplication::processEvents();
-            sold += game.concessions.shownTotalSold();
-        }
-    }
+    int pictures = 0;
+    window.runAtFast(pictures);
+    for (auto _ : state)
+        if (!runYear(game, state))
+            return;
     state.counters["stand_paints"] = standPaints;
-    state.counters["sold"] = static_cast<double>(sold);
     state.counters["machines"] = arcades.getMachineCount();
     state.counters["visible"] = window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
     state.counters["pictures"] = pictures;
@@ -150,6 +168,47 @@ void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
         336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(BM_DayAtFastWithArcadeAndStand)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// The same day with every screen open: the main screen, the eight mode screens and the log
+// window, all repainted as their views go stale.
+void BM_DayAtFastWithEveryScreen(benchmark::State& state) {
+    Window window(true);
+    window.showEverything();
+    int pictures = 0;
+    window.runAtFast(pictures);
+    for (auto _ : state)
+        if (!runYear(window.w->game(), state))
+            return;
+    state.counters["pictures"] = pictures;
+    state.counters["per_day"] = benchmark::Counter(
+        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_DayAtFastWithEveryScreen)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// Ten game years at Fast with every screen open: the resident memory after each year, in
+// megabytes (counters year1 to year10), and its growth from the first year to the last.
+// The log window keeps every line while it is open (it has no limit of its own, unlike the
+// main screen's log box): argument 0 closes it again, to tell its growth from the rest.
+void BM_MemoryOverTenYears(benchmark::State& state) {
+    for (auto _ : state) {
+        Window window(true);
+        window.showEverything();
+        if (state.range(0) == 0)
+            window.log->hide();
+        int pictures = 0;
+        window.runAtFast(pictures);
+        std::vector<double> rss;
+        for (int year = 1; year <= 10; ++year) {
+            if (!runYear(window.w->game(), state))
+                return;
+            rss.push_back(residentMegabytes());
+            state.counters["year" + std::to_string(year)] = rss.back();
+        }
+        state.counters["growth"] = rss.back() - rss.front();
+        state.counters["pictures"] = pictures;
+    }
+}
+BENCHMARK(BM_MemoryOverTenYears)->Arg(1)->Arg(0)->Unit(benchmark::kSecond)->Iterations(1);
 
 // From nothing to the title screen painted: the ports, the game and every window, the
 // whole start-up order, then the first screen shown and painted. Argument 1: with the game's

@@ -11,7 +11,17 @@ std::ifstream openTextFile(const std::string& path) {
     return file;
 }
 
+// A file that opens but cannot be read (a folder named like the file, a disk error) is the
+// game's input/output error: the buffer's own exception would reach the top unannounced.
 bool LineReader::readLine(std::string& line) {
+    try {
+        return readRawLine(line);
+    } catch (const std::ios_base::failure& e) {
+        throw GameError(GameError::Kind::Io, where() + e.what());
+    }
+}
+
+bool LineReader::readRawLine(std::string& line) {
     line.clear();
     std::streambuf* buf = in_.rdbuf();
     using traits = std::char_traits<char>;

@@ -20,6 +20,8 @@ public:
     std::string where() const { return name_ + " line " + std::to_string(line_) + ": "; }
 
 private:
+    bool readRawLine(std::string& line);
+
     std::istream& in_;
     std::string name_;
     int line_ = 0;

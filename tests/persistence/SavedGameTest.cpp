@@ -505,9 +505,13 @@ TEST_F(SavedGameFixture, ALoadEmptiesTheLogRunsNoDayKeepsSpeedGoalAndSavedFlag) 
     EXPECT_EQ(game().goals.getSelected(), 1); // the goal is not part of a saved game
 }
 
-TEST_F(SavedGameFixture, AMissingFileLoadsNothingButBecomesThePath) {
+TEST_F(SavedGameFixture, AMissingFileOrAFolderLoadsNothingButBecomesThePath) {
     start();
     const Int16 day = game().calendar.currentday;
+    const std::string folder = saves.file("folder.zvn");
+    std::filesystem::create_directory(folder);
+    game().files.loadGame(folder); // read as a file, it fails: silently, like a missing one
+    EXPECT_EQ(game().savedPath, folder);
     const std::string path = saves.file("missing.zvn");
     game().files.loadGame(path);
     EXPECT_EQ(game().savedPath, path);
