@@ -1,5 +1,6 @@
 // Benchmarks of the game window, offscreen (Google Benchmark): a day at Fast with the main
-// screen and the log window showing, repaint included; start-up to the title screen painted;
+// screen and the log window showing, repaint included (and with the movies and promotions
+// screens showing); start-up to the title screen painted;
 // one line added to a log window that holds 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "Commands.h"
@@ -87,6 +88,38 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
 }
 // Argument 1: the log window shows too (the goal's case); 0: the main screen alone.
 BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// The same day at Fast with the movies and promotions screens up beside the main screen:
+// the showtime table and the own list repaint every day, the promotions when they change.
+void BM_DayAtFastWithMoviesAndPromo(benchmark::State& state) {
+    Window window(true);
+    Game& game = window.w->game();
+    int pictures = 0;
+    window.w->screen().onShowLose = [&pictures] { ++pictures; };
+    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
+    game.promos.addPromo(2);
+    game.promos.addPromo(3);
+    game.switchMode(0);
+    game.switchMode(2); // both stay visible; the movies screen in front on its first tab
+    game.setSpeed(3);
+    window.w->main().clock()->stop();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        for (int d = 0; d < 336; ++d) {
+            try {
+                game.clockTick();
+            } catch (const std::exception& e) {
+                state.SkipWithError(e.what());
+                return;
+            }
+            QCoreApplication::processEvents();
+        }
+    }
+    state.counters["pictures"] = pictures;
+    state.counters["per_day"] = benchmark::Counter(
+        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_DayAtFastWithMoviesAndPromo)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // From nothing to the title screen painted: the ports, the game and every window, the
 // whole start-up order, then the first screen shown and painted.
