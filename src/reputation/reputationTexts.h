@@ -18,13 +18,13 @@ inline constexpr const char* header = "Promotions"; // lblHeader
 // lblPromoLabel 0 to 4, by medium.
 inline constexpr std::array<const char*, 5> media{"Nickel Ad", "Newspaper ad", "Radio ad",
                                                   "Billboard ad", "Television ad"};
-inline constexpr const char* buy = "Buy";                // lbcAddAd
-inline constexpr const char* drop = "Drop";              // lbcDropAd
+inline constexpr const char* buy = "Buy";                 // lbcAddAd
+inline constexpr const char* drop = "Drop";               // lbcDropAd
 inline constexpr const char* dropAll = "Drop All Promos"; // lbcDropAll
 inline constexpr const char* dropAllQuestion = "Are you sure you want to stop all promotions?";
-inline constexpr const char* current = "Current Promotions:";        // Label1
-inline constexpr const char* level = "Current Promo Level:";         // lblCurrentPromoLevelLabel
-inline constexpr const char* totalPaid = "Total Daily Payments:";    // lblTotalPaid
+inline constexpr const char* current = "Current Promotions:";     // Label1
+inline constexpr const char* level = "Current Promo Level:";      // lblCurrentPromoLevelLabel
+inline constexpr const char* totalPaid = "Total Daily Payments:"; // lblTotalPaid
 inline constexpr const char* hint =
     "Each ad runs until it is dropped and costs its price every day. Its points draw people "
     "to every show and lift the theater's rating.";

@@ -47,16 +47,22 @@ constexpr int gridRowHeight = 19;
 
 enum Column { Time, Ads, Title, Sold, Income, Age, Pop };
 
-QColor systemWindow() { return QApplication::palette().color(QPalette::Base); }
-QColor systemWindowText() { return QApplication::palette().color(QPalette::WindowText); }
+// The system's window colour: the background of a window's content, white behind text, so a
+// matinee's light grey stands out from it.
+QColor systemWindow() {
+    return QApplication::palette().color(QPalette::Base);
+}
+QColor systemWindowText() {
+    return QApplication::palette().color(QPalette::WindowText);
+}
 
 void playClick() {
     if (ButtonLabel::clickSound)
         ButtonLabel::clickSound();
 }
 
-QLabel* label(QWidget* parent, const QString& name, const QString& text, const QRect& r, const QFont& font,
-              Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
+QLabel* label(QWidget* parent, const QString& name, const QString& text, const QRect& r,
+              const QFont& font, Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
     auto* l = new QLabel(text, parent);
     l->setObjectName(name);
     l->setGeometry(r);
@@ -66,8 +72,8 @@ QLabel* label(QWidget* parent, const QString& name, const QString& text, const Q
 }
 
 QLabel* hint(QWidget* parent, const char* text, const QRect& r) {
-    auto* l = label(parent, QStringLiteral("lblHint"), QString::fromLatin1(text), r, look::font(7.5),
-                    Qt::AlignLeft | Qt::AlignTop);
+    auto* l = label(parent, QStringLiteral("lblHint"), QString::fromLatin1(text), r,
+                    look::font(7.5), Qt::AlignLeft | Qt::AlignTop);
     l->setWordWrap(true);
     return l;
 }
@@ -92,19 +98,23 @@ QTableWidget* grid(QWidget* parent, const QString& name, const int* widthsTwips,
     g->setSelectionMode(QAbstractItemView::SingleSelection);
     g->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     g->setFont(look::font(8));
-    g->setStyleSheet(QStringLiteral(
-        "QTableWidget { background: #FFFBF0; color: #2B1D14; gridline-color: #C9A227; border: 1px solid #2B1D14;"
-        " selection-background-color: #F2C14E; selection-color: #2B1D14; }"
-        "QHeaderView::section { background: #1D2A44; color: #F2C14E; border: 0; border-right: 1px solid #C9A227;"
-        " padding-left: 2px; }"));
+    g->setStyleSheet(
+        QStringLiteral("QTableWidget { background: #FFFBF0; color: #2B1D14; gridline-color: "
+                       "#C9A227; border: 1px solid #2B1D14;"
+                       " selection-background-color: #F2C14E; selection-color: #2B1D14; }"
+                       "QHeaderView::section { background: #1D2A44; color: #F2C14E; border: 0; "
+                       "border-right: 1px solid #C9A227;"
+                       " padding-left: 2px; }"));
     return g;
 }
 
 // Writes a grid's rows, touching only the cells whose text changed.
-void fillGrid(QTableWidget* g, const GridText& text, Qt::Alignment firstColumn = Qt::AlignLeft | Qt::AlignVCenter) {
+void fillGrid(QTableWidget* g, const GridText& text,
+              Qt::Alignment firstColumn = Qt::AlignLeft | Qt::AlignVCenter) {
     g->setRowCount(static_cast<int>(text.rows.size()));
     g->horizontalHeader()->setVisible(!text.header.empty());
-    for (std::size_t c = 0; c < text.header.size() && c < static_cast<std::size_t>(g->columnCount()); ++c) {
+    for (std::size_t c = 0;
+         c < text.header.size() && c < static_cast<std::size_t>(g->columnCount()); ++c) {
         const QString h = QString::fromStdString(text.header[c]);
         QTableWidgetItem* item = g->horizontalHeaderItem(static_cast<int>(c));
         if (!item)
@@ -113,7 +123,8 @@ void fillGrid(QTableWidget* g, const GridText& text, Qt::Alignment firstColumn =
             item->setText(h);
     }
     for (std::size_t r = 0; r < text.rows.size(); ++r) {
-        for (std::size_t c = 0; c < text.rows[r].size() && c < static_cast<std::size_t>(g->columnCount()); ++c) {
+        for (std::size_t c = 0;
+             c < text.rows[r].size() && c < static_cast<std::size_t>(g->columnCount()); ++c) {
             const QString cell = QString::fromStdString(text.rows[r][c]);
             QTableWidgetItem* item = g->item(static_cast<int>(r), static_cast<int>(c));
             if (!item) {
@@ -127,7 +138,8 @@ void fillGrid(QTableWidget* g, const GridText& text, Qt::Alignment firstColumn =
     }
 }
 
-ButtonLabel* movieButton(QWidget* parent, const QString& name, const char* caption, const QRect& r) {
+ButtonLabel* movieButton(QWidget* parent, const QString& name, const char* caption,
+                         const QRect& r) {
     auto* b = new ButtonLabel(name, QString::fromLatin1(caption), parent);
     b->setGeometry(r);
     b->setFont(look::font(8.5, true));
@@ -138,7 +150,8 @@ ButtonLabel* movieButton(QWidget* parent, const QString& name, const char* capti
 } // namespace
 
 frmMovies::frmMovies(Game& game, std::uint32_t bgr, QWidget* parent)
-    : ChildFrame(game, 2, QStringLiteral("frmMovies"), QString::fromLatin1(cap::header), bgr, parent) {
+    : ChildFrame(game, 2, QStringLiteral("frmMovies"), QString::fromLatin1(cap::header), bgr,
+                 parent) {
     SSTab1_ = new QTabWidget(body());
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
     SSTab1_->setFont(look::font(8.5, true));
@@ -180,8 +193,10 @@ QWidget* frmMovies::buildCurrentShows() {
     });
 
     for (std::size_t c = 0; c < cap::chartHeader.size(); ++c) {
-        auto* h = label(page, QStringLiteral("lblChartHeader_%1").arg(c), QString::fromLatin1(cap::chartHeader[c]),
-                        QRect(columnLeft[c], headerTop, columnWidth[c] - 2, headerHeight), look::font(8, true));
+        auto* h = label(page, QStringLiteral("lblChartHeader_%1").arg(c),
+                        QString::fromLatin1(cap::chartHeader[c]),
+                        QRect(columnLeft[c], headerTop, columnWidth[c] - 2, headerHeight),
+                        look::font(8, true));
         h->setIndent(4);
         look::paint(h, look::navy, look::popcorn);
     }
@@ -192,27 +207,33 @@ QWidget* frmMovies::buildCurrentShows() {
         auto* chk = new QCheckBox(page);
         chk->setObjectName(QStringLiteral("chkShowtimeAssign_%1").arg(s));
         chk->setGeometry(chkLeft + 3, top, chkWidth - 3, rowHeight);
-        chk->setToolTip(QStringLiteral("Right click: book the selected movie on this showtime alone"));
+        chk->setToolTip(
+            QStringLiteral("Right click: book the selected movie on this showtime alone"));
         chk->installEventFilter(this);
         connect(chk, &QCheckBox::clicked, this, [&mm, s](bool on) { mm.checkShowtime(s, on); });
         chkShowtimeAssign_[k] = chk;
 
-        auto* time = new ButtonLabel(QStringLiteral("lblShowtime_%1").arg(s), {}, page, ButtonLabel::Style::Immediate);
+        auto* time = new ButtonLabel(QStringLiteral("lblShowtime_%1").arg(s), {}, page,
+                                     ButtonLabel::Style::Immediate);
         time->setGeometry(columnLeft[Time], top, columnWidth[Time] - 2, rowHeight);
         time->setFont(look::font(8, true));
-        time->setToolTip(QStringLiteral("Click to switch this showtime between matinee (grey) and standard prices"));
+        time->setToolTip(QStringLiteral(
+            "Click to switch this showtime between matinee (grey) and standard prices"));
         connect(time, &ButtonLabel::clicked, this, [&mm, s] { mm.showtimeAt(s).toggleMatinee(); });
         lblShowtime_[k] = time;
 
-        const char* names[] = {nullptr, "lblAds", "lblMovieTitle", "lblTicketsSold", "lblIncome", "lblDaysRunning",
-                               "lblPopularity"};
-        std::array<QLabel*, 8>* columns[] = {nullptr, &lblAds_, &lblMovieTitle_, &lblTicketsSold_, &lblIncome_,
-                                             &lblDaysRunning_, &lblPopularity_};
+        const char* names[] = {nullptr,     "lblAds",         "lblMovieTitle", "lblTicketsSold",
+                               "lblIncome", "lblDaysRunning", "lblPopularity"};
+        std::array<QLabel*, 8>* columns[] = {nullptr,          &lblAds_,    &lblMovieTitle_,
+                                             &lblTicketsSold_, &lblIncome_, &lblDaysRunning_,
+                                             &lblPopularity_};
         for (int c = Ads; c <= Pop; ++c) {
             auto* v = label(page, QStringLiteral("%1_%2").arg(QLatin1String(names[c])).arg(s), {},
                             QRect(columnLeft[static_cast<std::size_t>(c)], top,
                                   columnWidth[static_cast<std::size_t>(c)] - 2, rowHeight),
-                            look::font(8), c == Title ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
+                            look::font(8),
+                            c == Title ? Qt::AlignLeft | Qt::AlignVCenter
+                                       : Qt::AlignRight | Qt::AlignVCenter);
             v->setIndent(4);
             look::paint(v, look::cream, look::ink);
             (*columns[c])[k] = v;
@@ -221,25 +242,27 @@ QWidget* frmMovies::buildCurrentShows() {
 
     auto* rule = new QFrame(page);
     rule->setObjectName(QStringLiteral("lneTotals"));
-    rule->setGeometry(columnLeft[Title], totalsTop - 3, columnLeft[Pop] + columnWidth[Pop] - columnLeft[Title], 1);
+    rule->setGeometry(columnLeft[Title], totalsTop - 3,
+                      columnLeft[Pop] + columnWidth[Pop] - columnLeft[Title], 1);
     rule->setStyleSheet(QStringLiteral("background: #2B1D14;"));
     auto* totals = label(page, QStringLiteral("lblTotals"), QString::fromLatin1(cap::totals),
-                         QRect(columnLeft[Title], totalsTop, columnWidth[Title] - 2, rowHeight), look::font(8, true),
-                         Qt::AlignRight | Qt::AlignVCenter);
+                         QRect(columnLeft[Title], totalsTop, columnWidth[Title] - 2, rowHeight),
+                         look::font(8, true), Qt::AlignRight | Qt::AlignVCenter);
     totals->setIndent(4);
     lblTotalSold_ = label(page, QStringLiteral("lblTotalSold"), {},
-                          QRect(columnLeft[Sold], totalsTop, columnWidth[Sold] - 2, rowHeight), look::font(8, true),
-                          Qt::AlignRight | Qt::AlignVCenter);
+                          QRect(columnLeft[Sold], totalsTop, columnWidth[Sold] - 2, rowHeight),
+                          look::font(8, true), Qt::AlignRight | Qt::AlignVCenter);
     lblTotalSold_->setAccessibleName(QStringLiteral("Total sold"));
     lblTotalSold_->setIndent(4);
-    lblTotalIncome_ = label(page, QStringLiteral("lblTotalIncome"), {},
-                            QRect(columnLeft[Income], totalsTop, columnWidth[Income] - 2, rowHeight),
-                            look::font(8, true), Qt::AlignRight | Qt::AlignVCenter);
+    lblTotalIncome_ =
+        label(page, QStringLiteral("lblTotalIncome"), {},
+              QRect(columnLeft[Income], totalsTop, columnWidth[Income] - 2, rowHeight),
+              look::font(8, true), Qt::AlignRight | Qt::AlignVCenter);
     lblTotalIncome_->setAccessibleName(QStringLiteral("Total income"));
     lblTotalIncome_->setIndent(4);
 
-    label(page, QStringLiteral("lblMyMovies"), QString::fromLatin1(cap::myMovies), QRect(chkLeft, listTop, 200, 16),
-          look::font(8, true));
+    label(page, QStringLiteral("lblMyMovies"), QString::fromLatin1(cap::myMovies),
+          QRect(chkLeft, listTop, 200, 16), look::font(8, true));
     lstMyMovies_ = new QListWidget(page);
     lstMyMovies_->setObjectName(QStringLiteral("lstMyMovies"));
     lstMyMovies_->setAccessibleName(QString::fromLatin1(cap::myMovies));
@@ -249,11 +272,13 @@ QWidget* frmMovies::buildCurrentShows() {
         "QListWidget { background: #FFFBF0; color: #2B1D14; border: 1px solid #2B1D14; }"
         "QListWidget::item:selected { background: #B3262E; color: #F6E7C1; }"));
     lstMyMovies_->installEventFilter(this);
-    connect(lstMyMovies_, &QListWidget::currentRowChanged, this, [&mm](int row) { mm.selectMyMovie(row); });
+    connect(lstMyMovies_, &QListWidget::currentRowChanged, this,
+            [&mm](int row) { mm.selectMyMovie(row); });
     connect(lstMyMovies_, &QListWidget::clicked, this, [] { playClick(); });
 
     const int buttonLeft = chkLeft + 312;
-    auto* assign = movieButton(page, QStringLiteral("lbcAssign"), cap::assign, QRect(buttonLeft, listTop + 2, 146, 24));
+    auto* assign = movieButton(page, QStringLiteral("lbcAssign"), cap::assign,
+                               QRect(buttonLeft, listTop + 2, 146, 24));
     connect(assign, &ButtonLabel::clicked, this, [this, &mm] {
         mm.assignShowtimes(0);
         paintChecks();
@@ -264,7 +289,8 @@ QWidget* frmMovies::buildCurrentShows() {
         mm.stopShowtimes(0);
         paintChecks();
     });
-    auto* sell = movieButton(page, QStringLiteral("lbcSellMovie"), cap::sell, QRect(buttonLeft, listTop + 62, 146, 24));
+    auto* sell = movieButton(page, QStringLiteral("lbcSellMovie"), cap::sell,
+                             QRect(buttonLeft, listTop + 62, 146, 24));
     connect(sell, &ButtonLabel::clicked, this, [&mm] { mm.sellMovie(); });
     hint(page, cap::showsHint, QRect(buttonLeft + 156, listTop, 134, 96));
     return page;
@@ -294,8 +320,8 @@ QWidget* frmMovies::buildTicketPrices() {
     for (int i = 0; i < 3; ++i) {
         const auto k = static_cast<std::size_t>(i);
         const QString caption = QString::fromLatin1(cap::priceCaptions[k]);
-        label(page, QStringLiteral("lblTicketPrice_%1").arg(i), caption, QRect(40, 44 + i * 40, 130, 24),
-              look::font(9, true));
+        label(page, QStringLiteral("lblTicketPrice_%1").arg(i), caption,
+              QRect(40, 44 + i * 40, 130, 24), look::font(9, true));
         auto* box = new QLineEdit(page);
         box->setObjectName(QStringLiteral("txtTicketPrice_%1").arg(i));
         box->setAccessibleName(caption.chopped(1));
@@ -306,7 +332,8 @@ QWidget* frmMovies::buildTicketPrices() {
         txtTicketPrice_[k] = box;
     }
     hint(page, cap::pricesHint, QRect(40, 170, 290, 60));
-    auto* booth = label(page, QStringLiteral("imgTicketBooth"), {}, QRect(380, 30, 200, 160), font(), Qt::AlignCenter);
+    auto* booth = label(page, QStringLiteral("imgTicketBooth"), {}, QRect(380, 30, 200, 160),
+                        font(), Qt::AlignCenter);
     booth->setAccessibleName(QStringLiteral("Ticket booth"));
     booth->setPixmap(loadPicture(game_, "images\\movies\\ticketbooth.png"));
     return page;
@@ -323,9 +350,11 @@ QWidget* frmMovies::buildAds() {
         gridWidth += px(w);
     gridAds_->setGeometry(8, 8, gridWidth + 2, gridRowHeight + 2 + 9 * gridRowHeight + 2);
     gridAds_->installEventFilter(this);
-    connect(gridAds_, &QTableWidget::cellDoubleClicked, this, [this](int row, int) { askAds(row + 1); });
+    connect(gridAds_, &QTableWidget::cellDoubleClicked, this,
+            [this](int row, int) { askAds(row + 1); });
     hint(gridAds_->parentWidget(), cap::adsHint, QRect(8, 222, gridWidth, 50));
-    auto* img = label(page, QStringLiteral("Image1"), {}, QRect(380, 30, 200, 150), font(), Qt::AlignCenter);
+    auto* img = label(page, QStringLiteral("Image1"), {}, QRect(380, 30, 200, 150), font(),
+                      Qt::AlignCenter);
     img->setAccessibleName(QStringLiteral("Advertisements"));
     img->setPixmap(loadPicture(game_, "images\\movies\\ads.png"));
     return page;
@@ -342,7 +371,8 @@ void frmMovies::applyTicketPrice(int index) {
 // Row numbers of the ads grid are showtime numbers. An empty answer (Cancel) changes nothing.
 void frmMovies::askAds(int row) {
     playClick();
-    const std::optional<int> ads = adsAnswer(game_.dialogs().input(cap::adsPrompt, cap::adsTitle, ""));
+    const std::optional<int> ads =
+        adsAnswer(game_.dialogs().input(cap::adsPrompt, cap::adsTitle, ""));
     if (ads)
         game_.movies.setShowtimeAds(row, *ads);
 }
@@ -375,8 +405,9 @@ bool frmMovies::eventFilter(QObject* watched, QEvent* event) {
     for (std::size_t i = 0; i < txtTicketPrice_.size(); ++i) {
         if (watched != txtTicketPrice_[i])
             continue;
-        const bool enter = type == QEvent::KeyPress && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
-                                                       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
+        const bool enter =
+            type == QEvent::KeyPress && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
+                                         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
         if (enter || type == QEvent::FocusOut)
             applyTicketPrice(static_cast<int>(i));
         return enter;
@@ -421,14 +452,16 @@ void frmMovies::paintShowtimes() {
             time->setText(caption);
             time->setAccessibleName(caption);
             chkShowtimeAssign_[k]->setAccessibleName(QStringLiteral("Choose ") + caption);
-            const std::array<QLabel*, 8>* columns[] = {&lblAds_,          &lblMovieTitle_,  &lblTicketsSold_,
-                                                       &lblIncome_,       &lblDaysRunning_, &lblPopularity_};
+            const std::array<QLabel*, 8>* columns[] = {&lblAds_,         &lblMovieTitle_,
+                                                       &lblTicketsSold_, &lblIncome_,
+                                                       &lblDaysRunning_, &lblPopularity_};
             for (std::size_t c = 0; c < 6; ++c)
                 (*columns[c])[k]->setAccessibleName(QString::fromLatin1(cap::chartHeader[c + 1]) +
                                                     QStringLiteral(", ") + caption);
         }
         time->setColours(row.matineeGrey ? grey : systemWindow(), systemWindowText());
-        time->setAccessibleDescription(row.matineeGrey ? QStringLiteral("matinee prices") : QStringLiteral("standard prices"));
+        time->setAccessibleDescription(row.matineeGrey ? QStringLiteral("matinee prices")
+                                                       : QStringLiteral("standard prices"));
         lblAds_[k]->setText(QString::fromStdString(row.ads));
         lblMovieTitle_[k]->setText(QString::fromStdString(row.title));
         lblTicketsSold_[k]->setText(QString::fromStdString(row.sold));
@@ -443,7 +476,8 @@ void frmMovies::paintShowtimes() {
 
 void frmMovies::paintMyMovies() {
     const std::vector<std::string> lines = myMovieLines(game_.movies);
-    const QSignalBlocker quiet(lstMyMovies_); // the selection is the game's; painting only mirrors it
+    const QSignalBlocker quiet(
+        lstMyMovies_); // the selection is the game's; painting only mirrors it
     if (lstMyMovies_->count() != static_cast<int>(lines.size())) {
         lstMyMovies_->clear();
         for (const std::string& l : lines)
@@ -458,7 +492,9 @@ void frmMovies::paintMyMovies() {
     lstMyMovies_->setCurrentRow(game_.movies.selectedMyMovie());
 }
 
-void frmMovies::paintBuyMovies() { fillGrid(grdBuyMovies_, buyMoviesGrid(game_.movies)); }
+void frmMovies::paintBuyMovies() {
+    fillGrid(grdBuyMovies_, buyMoviesGrid(game_.movies));
+}
 
 void frmMovies::paintTicketPrices() {
     const std::array<std::string, 3> prices = ticketPriceTexts(game_.movies);

@@ -28,7 +28,7 @@ class ButtonLabel;
 // mirror it.
 class frmMovies : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmMovies(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 
     void paintBuyMovies();
@@ -42,10 +42,10 @@ public:
     void attach(QtScreen& screen) override;
     void addScreenshots(Screenshots& shots) override;
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     QWidget* buildCurrentShows();
     QWidget* buildBuyMovies();
     QWidget* buildTicketPrices();

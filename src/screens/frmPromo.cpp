@@ -51,7 +51,8 @@ ButtonLabel* button(QWidget* parent, const QString& name, const char* caption, c
 } // namespace
 
 frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
-    : ChildFrame(game, 0, QStringLiteral("frmPromo"), QString::fromLatin1(promoCaptions::header), bgr, parent) {
+    : ChildFrame(game, 0, QStringLiteral("frmPromo"), QString::fromLatin1(promoCaptions::header),
+                 bgr, parent) {
     QWidget* b = body();
     promoManager& promos = game_.promos;
     for (int i = 0; i < promoManager::mediaCount; ++i) {
@@ -61,18 +62,21 @@ frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
         card->setObjectName(QStringLiteral("framePromo_%1").arg(i));
         card->setGeometry(cardLeft + i * (cardWidth + cardGap), cardTop, cardWidth, cardHeight);
         card->setFrameShape(QFrame::Box);
-        card->setStyleSheet(QStringLiteral("QFrame#framePromo_%1 { background: #F6E7C1; border: 1px solid #C9A227; "
-                                           "border-radius: 4px; }").arg(i));
+        card->setStyleSheet(
+            QStringLiteral("QFrame#framePromo_%1 { background: #F6E7C1; border: 1px solid #C9A227; "
+                           "border-radius: 4px; }")
+                .arg(i));
 
-        label(card, QStringLiteral("lblPromoLabel_%1").arg(i), medium, QRect(2, 6, cardWidth - 4, 18),
-              look::font(9, true), Qt::AlignCenter);
+        label(card, QStringLiteral("lblPromoLabel_%1").arg(i), medium,
+              QRect(2, 6, cardWidth - 4, 18), look::font(9, true), Qt::AlignCenter);
         auto* img = label(card, QStringLiteral("imgPromo_%1").arg(i), {},
-                          QRect((cardWidth - pictureSize) / 2, 28, pictureSize, pictureSize), font(),
-                          Qt::AlignCenter);
+                          QRect((cardWidth - pictureSize) / 2, 28, pictureSize, pictureSize),
+                          font(), Qt::AlignCenter);
         img->setPixmap(loadPicture(game_, pictures[i]));
         img->setAccessibleName(medium);
-        auto* points = label(card, QStringLiteral("lblPromoLevelLabel_%1").arg(i), {},
-                             QRect(2, 96, cardWidth - 4, 16), look::font(8.5, true), Qt::AlignCenter);
+        auto* points =
+            label(card, QStringLiteral("lblPromoLevelLabel_%1").arg(i), {},
+                  QRect(2, 96, cardWidth - 4, 16), look::font(8.5, true), Qt::AlignCenter);
         points->setAccessibleName(medium + QStringLiteral(" points"));
         look::paint(points, look::cream, look::teal);
         points->setAutoFillBackground(false);
@@ -83,7 +87,8 @@ frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
         price->setToolTip(QString::fromLatin1(promoCaptions::priceTip));
         lblPromoPriceLabel_[k] = price;
 
-        auto* add = button(card, QStringLiteral("lbcAddAd_%1").arg(i), promoCaptions::buy, QRect(8, 138, 48, 24));
+        auto* add = button(card, QStringLiteral("lbcAddAd_%1").arg(i), promoCaptions::buy,
+                           QRect(8, 138, 48, 24));
         add->setAccessibleName(QStringLiteral("Buy ") + medium);
         connect(add, &ButtonLabel::clicked, this, [&promos, i] { promos.addPromo(i); });
         auto* drop = button(card, QStringLiteral("lbcDropAd_%1").arg(i), promoCaptions::drop,
@@ -95,9 +100,10 @@ frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
     auto* frame = new QFrame(b);
     frame->setObjectName(QStringLiteral("Frame1"));
     frame->setGeometry(cardLeft, frameTop, 640 - 2 * cardLeft, frameHeight);
-    frame->setStyleSheet(QStringLiteral("QFrame#Frame1 { border: 1px solid #C9A227; border-radius: 4px; }"));
-    label(frame, QStringLiteral("Label1"), QString::fromLatin1(promoCaptions::current), QRect(10, 6, 200, 16),
-          look::font(8.5, true));
+    frame->setStyleSheet(
+        QStringLiteral("QFrame#Frame1 { border: 1px solid #C9A227; border-radius: 4px; }"));
+    label(frame, QStringLiteral("Label1"), QString::fromLatin1(promoCaptions::current),
+          QRect(10, 6, 200, 16), look::font(8.5, true));
 
     grdPromos_ = new QTableWidget(0, 4, frame);
     grdPromos_->setObjectName(QStringLiteral("grdPromos"));
@@ -126,14 +132,16 @@ frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
     grdPromos_->setFocusPolicy(Qt::TabFocus);
     grdPromos_->setFont(look::font(7.5));
     grdPromos_->horizontalHeader()->setFont(look::font(7.5, true));
-    grdPromos_->setStyleSheet(QStringLiteral(
-        "QTableWidget { background: #FFFBF0; color: #2B1D14; gridline-color: #C9A227; border: 1px solid #2B1D14; }"
-        "QHeaderView::section { background: #1D2A44; color: #F2C14E; border: 0; border-right: 1px solid #C9A227;"
-        " padding-left: 2px; }"));
+    grdPromos_->setStyleSheet(QStringLiteral("QTableWidget { background: #FFFBF0; color: #2B1D14; "
+                                             "gridline-color: #C9A227; border: 1px solid #2B1D14; }"
+                                             "QHeaderView::section { background: #1D2A44; color: "
+                                             "#F2C14E; border: 0; border-right: 1px solid #C9A227;"
+                                             " padding-left: 2px; }"));
 
     const int totalsLeft = gridWidth + 32;
-    label(frame, QStringLiteral("lblCurrentPromoLevelLabel"), QString::fromLatin1(promoCaptions::level),
-          QRect(totalsLeft, 28, 160, 18), look::font(8.5, true));
+    label(frame, QStringLiteral("lblCurrentPromoLevelLabel"),
+          QString::fromLatin1(promoCaptions::level), QRect(totalsLeft, 28, 160, 18),
+          look::font(8.5, true));
     lblCurrentPromoLevel_ = label(frame, QStringLiteral("lblCurrentPromoLevel"), {},
                                   QRect(totalsLeft + 160, 28, 90, 18), look::font(8.5));
     lblCurrentPromoLevel_->setAccessibleName(QString::fromLatin1(promoCaptions::level).chopped(1));
@@ -141,9 +149,11 @@ frmPromo::frmPromo(Game& game, std::uint32_t bgr, QWidget* parent)
           QRect(totalsLeft, 50, 160, 18), look::font(8.5, true));
     lblTotalMonthlyPayments_ = label(frame, QStringLiteral("lblTotalMonthlyPayments"), {},
                                      QRect(totalsLeft + 160, 50, 90, 18), look::font(8.5));
-    lblTotalMonthlyPayments_->setAccessibleName(QString::fromLatin1(promoCaptions::totalPaid).chopped(1));
-    auto* hint = label(frame, QStringLiteral("lblPromoHint"), QString::fromLatin1(promoCaptions::hint),
-                       QRect(totalsLeft, 76, 250, 46), look::font(7.5), Qt::AlignLeft | Qt::AlignTop);
+    lblTotalMonthlyPayments_->setAccessibleName(
+        QString::fromLatin1(promoCaptions::totalPaid).chopped(1));
+    auto* hint =
+        label(frame, QStringLiteral("lblPromoHint"), QString::fromLatin1(promoCaptions::hint),
+              QRect(totalsLeft, 76, 250, 46), look::font(7.5), Qt::AlignLeft | Qt::AlignTop);
     hint->setWordWrap(true);
 
     auto* all = button(frame, QStringLiteral("lbcDropAll"), promoCaptions::dropAll,

@@ -16,7 +16,7 @@ class ButtonLabel;
 // asks first.
 class frmPromo : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmPromo(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 
     // Puts showPromotions on screen: prices, points, the table and the totals.
@@ -25,7 +25,7 @@ public:
     void attach(QtScreen& screen) override;
     void addScreenshots(Screenshots& shots) override;
 
-private:
+  private:
     void dropAll();
 
     std::array<QLabel*, 5> lblPromoLevelLabel_{};

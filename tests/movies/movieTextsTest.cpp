@@ -123,8 +123,8 @@ TEST(AdsAnswer, LeadingNumberOfTheText) {
     const struct {
         const char* text;
         std::optional<int> ads;
-    } cases[] = {{"", std::nullopt}, {"3", 3},   {"2 ads", 2}, {"lots", 0},
-                 {"2.9", 2},         {"-1.5", -2}, {" 4", 4},  {"32767", 32767}};
+    } cases[] = {{"", std::nullopt}, {"3", 3},     {"2 ads", 2}, {"lots", 0},
+                 {"2.9", 2},         {"-1.5", -2}, {" 4", 4},    {"32767", 32767}};
     for (const auto& c : cases)
         EXPECT_EQ(adsAnswer(c.text), c.ads) << '"' << c.text << '"';
     EXPECT_THROW(adsAnswer("40000"), GameError);

@@ -27,7 +27,9 @@ class MoviesPromoTest : public QObject {
     std::unique_ptr<PlayingWindow> p;
     QWidget* movies = nullptr;
 
-    template <class T> T* ctl(const QString& name) { return PlayingWindow::control<T>(movies, name); }
+    template <class T> T* ctl(const QString& name) {
+        return PlayingWindow::control<T>(movies, name);
+    }
     QCheckBox* box(int s) { return ctl<QCheckBox>(QStringLiteral("chkShowtimeAssign_%1").arg(s)); }
     MovieManager& mm() { return p->game().movies; }
     void tab(int i) {
@@ -41,8 +43,8 @@ class MoviesPromoTest : public QObject {
         for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
                                         QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
             const bool down = type != QEvent::MouseButtonRelease;
-            QMouseEvent e(type, at, v->mapToGlobal(at), Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
-                          Qt::NoModifier);
+            QMouseEvent e(type, at, v->mapToGlobal(at), Qt::LeftButton,
+                          down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
             QApplication::sendEvent(v, &e);
         }
         QApplication::processEvents();
@@ -54,7 +56,7 @@ class MoviesPromoTest : public QObject {
         tab(0);
     }
 
-private slots:
+  private slots:
     void init() {
         p = std::make_unique<PlayingWindow>();
         p->game().finances.setFunds(1e6);
@@ -84,7 +86,8 @@ private slots:
         buyFirstRows(3);
         auto* list = ctl<QListWidget>(QStringLiteral("lstMyMovies"));
         QCOMPARE(list->count(), 3);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->item(0)).center());
         QCOMPARE(mm().selectedMyMovie(), 0);
         QTest::mouseClick(box(2), Qt::LeftButton);
         QTest::mouseClick(box(5), Qt::LeftButton);
@@ -192,14 +195,16 @@ private slots:
                 n[i] = promos.promoRunning[i];
             return n;
         };
-        for (const char* b : {"lbcAddAd_1", "lbcAddAd_1", "lbcAddAd_3", "lbcAddAd_4", "lbcDropAd_4"})
+        for (const char* b :
+             {"lbcAddAd_1", "lbcAddAd_1", "lbcAddAd_3", "lbcAddAd_4", "lbcDropAd_4"})
             click(QString::fromLatin1(b));
         QCOMPARE(running(), (std::array<int, 5>{0, 2, 0, 1, 0}));
         auto* table = PlayingWindow::control<QTableWidget>(promo, QStringLiteral("grdPromos"));
         QCOMPARE(table->rowCount(), 2);
         const PromotionsView v = promotionsView(promos);
-        QCOMPARE(PlayingWindow::control<QLabel>(promo, QStringLiteral("lblCurrentPromoLevel"))->text(),
-                 QString::fromStdString(v.currentPromoLevel));
+        QCOMPARE(
+            PlayingWindow::control<QLabel>(promo, QStringLiteral("lblCurrentPromoLevel"))->text(),
+            QString::fromStdString(v.currentPromoLevel));
 
         p->dialogs.answers.push_back(Answer::No);
         click(QStringLiteral("lbcDropAll"));
