@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -391,6 +392,14 @@ bool frmMovies::eventFilter(QObject* watched, QEvent* event) {
                 paintChecks();
                 return true;
             }
+        }
+        // The menu key does from the keyboard what the right button does.
+        if (type == QEvent::ContextMenu &&
+            static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+            playClick();
+            game_.movies.assignOnly(static_cast<int>(k) + 1);
+            paintChecks();
+            return true;
         }
         return false;
     }
