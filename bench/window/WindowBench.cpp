@@ -1,9 +1,9 @@
 // Benchmarks of the game window, offscreen (Google Benchmark): a day at Fast with the main
-// screen and the log window showing, repaint included; the same with the arcade and concession
-// screens up and 20 machines, and with every mode screen open; resident memory over ten game
-// years with every screen open; start-up to the title screen painted, silent and with the
-// game's sound port; making the sound players after it; one line added to a log window that
-// holds 20,000.
+// screen and the log window showing, repaint included; the same with the movies and
+// promotions screens up, with the arcade and concession screens up and 20 machines, and with
+// every mode screen open; resident memory over ten game years with every screen open;
+// start-up to the title screen painted, silent and with the game's sound port; making the
+// sound players after it; one line added to a log window that holds 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "Commands.h"
 #include "GameApplication.h"
@@ -209,6 +209,26 @@ void BM_MemoryOverTenYears(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_MemoryOverTenYears)->Arg(1)->Arg(0)->Unit(benchmark::kSecond)->Iterations(1);
+
+// The same day at Fast with the movies and promotions screens up beside the main screen:
+// the showtime table and the own list repaint every day, the promotions when they change.
+void BM_DayAtFastWithMoviesAndPromo(benchmark::State& state) {
+    Window window(true);
+    Game& game = window.w->game();
+    game.promos.addPromo(2);
+    game.promos.addPromo(3);
+    game.switchMode(0);
+    game.switchMode(2); // both stay visible; the movies screen in front on its first tab
+    int pictures = 0;
+    window.runAtFast(pictures);
+    for (auto _ : state)
+        if (!runYear(game, state))
+            return;
+    state.counters["pictures"] = pictures;
+    state.counters["per_day"] = benchmark::Counter(
+        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(BM_DayAtFastWithMoviesAndPromo)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // From nothing to the title screen painted: the ports, the game and every window, the
 // whole start-up order, then the first screen shown and painted. Argument 1: with the game's

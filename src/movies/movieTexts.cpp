@@ -107,6 +107,12 @@ std::string ticketPriceText(double price) {
     return (negative ? "-$" : "$") + digits;
 }
 
+std::optional<int> adsAnswer(const std::string& text) {
+    if (text.empty())
+        return std::nullopt;
+    return floorInt16(leadingNumber(text));
+}
+
 std::array<std::string, 3> ticketPriceTexts(const MovieManager& mm) {
     return {ticketPriceText(mm.getTicketPrice(0)), ticketPriceText(mm.getTicketPrice(1)),
             ticketPriceText(mm.getTicketPrice(2))};

@@ -1,5 +1,6 @@
 #include "MovieFixture.h"
 
+#include "core/GameError.h"
 #include "movies/movieTexts.h"
 
 using namespace zorvane;
@@ -115,4 +116,16 @@ TEST(TicketPriceText, DollarHashPointZeroZero) {
     EXPECT_EQ(ticketPriceText(0), "$.00");
     EXPECT_EQ(ticketPriceText(1234.5), "$1234.50");
     EXPECT_EQ(ticketPriceText(2.005), "$2.01");
+}
+
+// The ads box: empty text changes nothing, else the leading number floored to 16 bits.
+TEST(AdsAnswer, LeadingNumberOfTheText) {
+    const struct {
+        const char* text;
+        std::optional<int> ads;
+    } cases[] = {{"", std::nullopt}, {"3", 3},     {"2 ads", 2}, {"lots", 0},
+                 {"2.9", 2},         {"-1.5", -2}, {" 4", 4},    {"32767", 32767}};
+    for (const auto& c : cases)
+        EXPECT_EQ(adsAnswer(c.text), c.ads) << '"' << c.text << '"';
+    EXPECT_THROW(adsAnswer("40000"), GameError);
 }
