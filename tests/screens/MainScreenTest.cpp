@@ -95,13 +95,17 @@ private slots:
         QCOMPARE(movies->pos(), moviesAt);
 
         // Dragged by its header, the staff screen is torn off and stays where it was dropped,
-        // even when its mode is chosen again.
+        // even when its mode is chosen again, by its button or by a click on its header.
         drag(staff->header(), QPoint(200, 15));
         QVERIFY(!staff->getGlued());
         const QPoint dropped = staff->pos();
         QCOMPARE(dropped, underMain().topLeft() + QPoint(200, 15));
         control("lbcMode_0")->trigger();
         control("lbcMode_1")->trigger();
+        QCOMPARE(game.currentMode, 1);
+        control("lbcMode_0")->trigger();
+        mouse(staff->header(), QEvent::MouseButtonPress, Qt::LeftButton, QPoint(10, 5));
+        mouse(staff->header(), QEvent::MouseButtonRelease, Qt::LeftButton, QPoint(10, 5));
         QCOMPARE(game.currentMode, 1);
         QCOMPARE(staff->pos(), dropped);
 

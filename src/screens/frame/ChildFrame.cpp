@@ -2,6 +2,7 @@
 
 #include "frame/Look.h"
 #include "frame/Twips.h"
+#include "session/Game.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -78,9 +79,14 @@ bool ChildFrame::eventFilter(QObject* watched, QEvent* event) {
             move(pos() + e->position().toPoint() - grab_);
         return true;
     }
-    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonRelease: {
         dragging_ = false;
+        // A left click on the header brings the screen to the front through its mode.
+        auto* e = static_cast<QMouseEvent*>(event);
+        if (e->button() == Qt::LeftButton && lblHeader_->rect().contains(e->position().toPoint()))
+            game_.switchMode(mode_);
         return true;
+    }
     case QEvent::MouseButtonDblClick:
         glued_ = true;
         emit reglueRequested();

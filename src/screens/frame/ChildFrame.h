@@ -18,6 +18,7 @@ class Screenshots;
 // left edge, same width), with a header label to hold it by.
 //
 // - Left button down on the header tears the screen off (glued := false) and drags it.
+// - A left click on the header switches to the screen's mode, which brings it to the front.
 // - Right button down on the header hides it.
 // - A double click on the header glues it again and snaps it under the main screen.
 // - The header is the window's width less 150 twips (room for the screen's own corner).
