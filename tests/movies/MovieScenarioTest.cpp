@@ -33,7 +33,7 @@ TEST_F(MovieScript, OwnMoviesAgeEvenOnAClosedDay) {
     mm().myMovieAt(1).setMyPopularity(90);
     run("show 1 3");
     g().building.seating = 100;
-    mm().showtimeAt(3).doBusiness();
+    mm().showtimeAt(3).doBusiness(g().building.getSeating());
     const int sold = mm().showtimeAt(3).getTodaysTicketSales();
     ASSERT_GT(sold, 0);
     ASSERT_GT(mm().myMovieAt(1).getTodaysTickets(), 0);
