@@ -48,18 +48,3 @@ TEST_F(MovieScript, OwnMoviesAgeEvenOnAClosedDay) {
     // The showtime keeps the figures of the last day it ran.
     EXPECT_EQ(mm().showtimeAt(3).getTodaysTicketSales(), sold);
 }
-
-TEST_F(MovieScript, AWeekBringsANewOffer) {
-    const std::string message = " new movies have been released this week.";
-    auto releases = [&] {
-        int n = 0;
-        const std::string& box = g().logBox;
-        for (std::size_t p = box.find(message); p != std::string::npos;
-             p = box.find(message, p + 1))
-            ++n;
-        return n;
-    };
-    const int before = releases();
-    run("day 6");
-    EXPECT_EQ(releases(), before + 1);
-}

@@ -41,49 +41,53 @@ const char* vinnyLine(const std::string& post) {
 
 // ---------------------------------------------------------------- fill-ins
 
-TEST_F(ManagerTest, FillInExactPassTakesTheMostAmbitiousFirstAmongEquals) {
+// Three passes over the idle staff beside the seven holders: exactly qualified (most ambitious
+// first, ambition 0 never), over-qualified (least ambitious first, ambition 100 never), then
+// under-qualified (most ambitious); the first of equals keeps it.
+struct FillInCase {
+    const char* name;
+    std::vector<Member> extra; // numbered from 8
+    int post, sick, chosen;
+};
+
+const FillInCase fillInCases[] = {
+    {"ExactPassMostAmbitiousFirstOfEquals",
+     {{"Hal Hunt", 3, 0}, {"Ida Irving", 3, 6}, {"Jo Jones", 3, 6}, {"Kay King", 4, 1}},
+     3,
+     3,
+     9},
+    {"OverPassLeastAmbitious",
+     {{"Hal Hunt", 2, 9}, {"Ida Irving", 6, 4}, {"Jo Jones", 9, 2}, {"Kay King", 5, 2}},
+     3,
+     3,
+     10},
+    {"OverPassNeverAmbitionOfAHundred", {{"Hal Hunt", 6, 100}, {"Ida Irving", 1, 1}}, 3, 3, 9},
+    {"UnderPassMostAmbitiousSkippingTheBusy",
+     {{"Hal Hunt", 1, 3}, {"Ida Irving", 2, 7}, {"Jo Jones", 2, 9, 5, 10, 0, 0, 0, true}},
+     4,
+     4,
+     9},
+    // The sick person (9) is left out even when idle.
+    {"NeverTheSickPerson", {{"Hal Hunt", 1, 3}, {"Ida Irving", 2, 7}}, 4, 9, 8},
+};
+
+struct FillInTable : ManagerTest, ::testing::WithParamInterface<FillInCase> {};
+
+TEST_P(FillInTable, TakesTheRightStandIn) {
+    const FillInCase& c = GetParam();
     std::vector<Member> people = fullStaff();
-    people.push_back({"Hal Hunt", 3, 0});   // exact, but ambition 0 never wins
-    people.push_back({"Ida Irving", 3, 6}); // exact
-    people.push_back({"Jo Jones", 3, 6});   // exact, equal: the first keeps it
-    people.push_back({"Kay King", 4, 1});   // over, would win the second pass
+    people.insert(people.end(), c.extra.begin(), c.extra.end());
     setStaff(people);
-    EXPECT_EQ(staff.findFillIn(3, 3), 9);
-    EXPECT_EQ(emp(9).job, 3);
-    EXPECT_TRUE(emp(9).fillingin);
-    EXPECT_EQ(holder(3), 3); // the post's holder does not change
-    EXPECT_EQ(logged("Ida Irving filled in today, doing Concessions Clerk"), 1);
+    EXPECT_EQ(staff.findFillIn(c.post, c.sick), c.chosen);
+    EXPECT_EQ(emp(c.chosen).job, c.post);
+    EXPECT_TRUE(emp(c.chosen).fillingin);
+    EXPECT_EQ(holder(c.post), c.post); // the post's holder does not change
+    EXPECT_EQ(logged(emp(c.chosen).name + " filled in today, doing " + staff.positionName(c.post)),
+              1);
 }
 
-TEST_F(ManagerTest, FillInOverPassTakesTheLeastAmbitious) {
-    std::vector<Member> people = fullStaff();
-    people.push_back({"Hal Hunt", 2, 9});   // under: only the third pass
-    people.push_back({"Ida Irving", 6, 4}); // over
-    people.push_back({"Jo Jones", 9, 2});   // over, least ambitious
-    people.push_back({"Kay King", 5, 2});   // over, as unambitious but later
-    setStaff(people);
-    EXPECT_EQ(staff.findFillIn(3, 3), 10);
-}
-
-TEST_F(ManagerTest, FillInOverPassNeverTakesAmbitionOfAHundred) {
-    std::vector<Member> people = fullStaff();
-    people.push_back({"Hal Hunt", 6, 100});
-    people.push_back({"Ida Irving", 1, 1});
-    setStaff(people);
-    EXPECT_EQ(staff.findFillIn(3, 3), 9); // the under-qualified one, from the third pass
-}
-
-TEST_F(ManagerTest, FillInUnderPassTakesTheMostAmbitiousAndSkipsTheSickAndTheBusy) {
-    std::vector<Member> people = fullStaff();
-    people.push_back({"Hal Hunt", 1, 3});
-    people.push_back({"Ida Irving", 2, 7});
-    people.push_back({"Jo Jones", 2, 9, 5, 10, 0, 0, 0, true}); // filling in: not idle
-    setStaff(people);
-    EXPECT_EQ(staff.findFillIn(4, 4), 9);
-    // The sick person's own number is left out even when idle.
-    emp(9).setMyJob(0, false);
-    EXPECT_EQ(staff.findFillIn(4, 9), 8);
-}
+INSTANTIATE_TEST_SUITE_P(Passes, FillInTable, ::testing::ValuesIn(fillInCases),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(ManagerTest, NobodyIdleCallsCousinVinnyWhoIsPaidUnderLabor) {
     setStaff(fullStaff());
