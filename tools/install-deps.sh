@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages Zorvane needs to build and test, if any are missing, and
-# the de_DE.UTF-8 locale, under which a test checks that no number depends on the locale.
+# Installs the Debian 12 packages Zorvane needs to build, test and check the layout of (clang-format),
+# if any are missing, and the de_DE.UTF-8 locale, under which a test checks that no number depends
+# on the locale.
 # Usage: tools/install-deps.sh [game|fuzz|art]   ("game" adds the Qt 6 packages of the window
 #        and its font, "fuzz" the clang runtime that the libFuzzer targets of fuzz/ build with,
 #        "art" the tools tools/make-art.sh draws the pictures with)
 set -euo pipefail
 
-packages=(build-essential cmake g++ clang-14 pkg-config locales
+packages=(build-essential cmake g++ clang-14 clang-format-14 pkg-config locales
           libgtest-dev libgmock-dev googletest libbenchmark-dev
           libcli11-dev nlohmann-json3-dev)
 if [[ "${1:-}" == "game" ]]; then

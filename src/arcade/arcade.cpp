@@ -79,22 +79,10 @@ void arcade::init(int number, const std::string& name) {
     cost = mul16(Pop, m.arcadepricemod);
 }
 
-// One visitor and this machine. Every play by anyone of the same crowd lowers the chance of
-// the next one; a broken machine takes no play and draws no roll.
-bool arcade::play(const PlayTerms& terms, int playsSoFar) {
-    if (IamBroke)
-        return false;
-    const int chance =
-        sub16(terms.baseChance, mul16(playsSoFar, game_->math.arcadeplaychanceplayedmod));
-    if (game_->rng.percentRoll() > chance)
-        return false;
-    takePlay(terms.price);
-    return true;
-}
-
 arcade::PlayTerms arcade::playTerms() const {
     const double price = playPrice(*game_, PricePerPlay);
-    return {price, floorInt16(Pop - game_->math.arcadeplaychancepricemod * price)};
+    return {price, floorInt16(Pop - game_->math.arcadeplaychancepricemod * price),
+            game_->math.arcadeplaychanceplayedmod};
 }
 
 void arcade::takePlay(double price) {

@@ -1,5 +1,6 @@
 #pragma once
 #include "core/Numbers.h"
+#include "core/Random.h"
 
 #include <string>
 
@@ -34,16 +35,29 @@ class arcade {
     double Income = 0; // takings less repair bills
     double cost = 0;   // market price of a sound machine
 
-    // What a play costs and the machine's chance before the crowd's plays are counted: fixed
-    // while one crowd plays, so the room works them out once per crowd.
+    // What a play costs, the machine's chance before the crowd's plays are counted and what
+    // each of those plays takes off it: fixed while one crowd plays, so the room works them
+    // out once per crowd.
     struct PlayTerms {
         double price = 0;
         int baseChance = 0;
+        int playedMod = 0;
     };
     PlayTerms playTerms() const;
     // One arcade visitor meets this machine on the crowd's terms; `playsSoFar` counts the
-    // plays of the whole crowd. Returns whether the visitor played.
-    bool play(const PlayTerms& terms, int playsSoFar);
+    // plays of the whole crowd. Every play by anyone of the same crowd lowers the chance of
+    // the next one; a broken machine takes no play and draws no roll. Returns whether the
+    // visitor played. Defined here: the crowd loop, the busiest of the day, calls it for
+    // every visitor and machine.
+    bool play(const PlayTerms& terms, int playsSoFar, Random& rng) {
+        if (IamBroke)
+            return false;
+        const int chance = sub16(terms.baseChance, mul16(playsSoFar, terms.playedMod));
+        if (rng.percentRoll() > chance)
+            return false;
+        takePlay(terms.price);
+        return true;
+    }
     // A visitor has played: books the takings and rolls for a breakdown.
     void takePlay(double price);
     void setOriginalPurchasePrice(double dollars) { OriginalPrice = dollars; }

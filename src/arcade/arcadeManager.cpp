@@ -263,10 +263,11 @@ void arcadeManager::doArcadeBusiness(int count) {
     for (const auto& machine : myGames)
         offers_.push_back(
             {machine.get(), machine->getIamBroke() ? arcade::PlayTerms{} : machine->playTerms()});
+    Random& rng = game_.rng;
     int plays = 0;
     for (int visitor = 1; visitor <= visitors; ++visitor)
         for (const Offer& offer : offers_)
-            if (offer.machine->play(offer.terms, plays))
+            if (offer.machine->play(offer.terms, plays, rng))
                 plays = add16(plays, 1);
 }
 

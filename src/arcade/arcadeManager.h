@@ -73,8 +73,6 @@ class arcadeManager {
     // The full path of a cabinet picture of the arcades folder.
     std::string cabinetPath(int style, bool facingRight) const;
 
-    Game& game() { return game_; }
-
   private:
     static arcade& at(const GameList& list, int index, const char* name);
     void appendTo(GameList& list, const std::shared_ptr<arcade>& title, const char* name);

@@ -52,8 +52,6 @@ class buildingManager {
     void saveBuilding(LineWriter& out) const;
     void loadBuilding(LineReader& in);
 
-    Game& game() { return game_; }
-
   private:
     Game& game_;
 };

@@ -48,8 +48,6 @@ class ConcessionManager {
     double shownTotalProfit() const { return shownTotalProfit_; }
     double shownIncomeLastMonth() const { return shownIncomeLastMonth_; }
 
-    Game& game() { return game_; }
-
   private:
     Game& game_;
     std::array<Concession, itemCount> items_;

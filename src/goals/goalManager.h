@@ -39,8 +39,6 @@ class goalManager {
     // The names added to the title screen's list, in order.
     const std::vector<std::string>& listedNames() const { return lstGoals; }
 
-    Game& game() { return game_; }
-
   private:
     void checkGoal();
     bool targetMet(const goal& g);

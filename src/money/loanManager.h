@@ -73,8 +73,6 @@ class loanManager {
     void saveLoans(LineWriter& out) const;
     void loadLoans(LineReader& in);
 
-    Game& game() { return game_; }
-
   private:
     void rewriteAmountText(const std::string& text);
 

@@ -144,7 +144,7 @@ void MovieManager::doShowtimes() {
         return;
     for (int s = 1; s <= 8; ++s)
         if (showtimeAt(s).getMyMovie() > 0)
-            showtimeAt(s).doBusiness();
+            showtimeAt(s).doBusiness(game_.building.getSeating());
 }
 
 // A year's inflation on every catalogue price, owned titles included.

@@ -84,9 +84,6 @@ class MovieManager {
     void saveShowtimes(LineWriter& out) const;
     void loadShowtimes(LineReader& in);
 
-    Game& game() { return game_; }
-    const Game& game() const { return game_; }
-
   private:
     static int count(const std::vector<MovieRef>& list) {
         return static_cast<int>(list.size()) - 1;

@@ -3,7 +3,6 @@
 #include "core/Numbers.h"
 #include "core/Toolbox.h"
 #include "movies/MovieManager.h"
-#include "session/Game.h"
 
 #include <cmath>
 
@@ -79,15 +78,14 @@ ShowtimeTableText showtimeTable(const MovieManager& mm) {
 }
 
 GridText adsGrid(const MovieManager& mm) {
-    const MathVars& math = mm.game().math;
     GridText grid;
     grid.header = {"Showtime", "# of ads", "Daily income", "Loss to popularity"};
     Int16 ads, loss;
     double income = 0;
     for (int s = 1; s <= 8; ++s) {
         const showtime& st = mm.showtimeAt(s);
-        const int rowLoss = mul16(st.getAds(), math.showtimeadpop);
-        const double rowIncome = st.getAds() * math.showtimeadincome;
+        const int rowLoss = st.adsPopularityLoss();
+        const double rowIncome = st.adsIncome();
         grid.rows.push_back({st.getName(), std::to_string(st.getAds()), formatMoney(rowIncome),
                              std::to_string(rowLoss)});
         ads += st.getAds();

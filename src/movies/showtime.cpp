@@ -26,10 +26,13 @@ showtime::showtime(Game& game, int slot) : game_(&game), caption(designCaption(s
 int showtime::getMoviePopularity() const {
     if (movie < 1)
         return 0;
-    const int pop =
-        sub16(game_->movies.getMyMoviePopularity(movie), mul16(ads, game_->math.showtimeadpop));
+    const int pop = sub16(game_->movies.getMyMoviePopularity(movie), adsPopularityLoss());
     return pop < 1 ? 1 : pop;
 }
+
+int showtime::adsPopularityLoss() const { return mul16(ads, game_->math.showtimeadpop); }
+
+double showtime::adsIncome() const { return ads * game_->math.showtimeadincome; }
 
 // A new game's slot: its number, matinee state and the name of showtimename<number>.
 void showtime::init(int number, bool matineeFlag) {
@@ -94,14 +97,14 @@ double showtime::getMyPrice() {
 
 // Today's show: demand times seats as tickets (never above the seats), the sale, the crowd,
 // then the ads' money, which is paid whatever the turnout.
-void showtime::doBusiness() {
+void showtime::doBusiness(int seating) {
     todaysincome = 0;
     todaysticketsales = 0;
     const double demand = game_->movies.getDemand(num);
-    const int tickets = floorInt16(demand * game_->building.getSeating() / 100);
+    const int tickets = floorInt16(demand * seating / 100);
     sellTickets(tickets);
     if (movie > 0)
-        game_->finances.earn(ads * game_->math.showtimeadincome, "ads");
+        game_->finances.earn(adsIncome(), "ads");
 }
 
 // Sold in bulk: the senior share splits off only while seniors pay less than the matinee

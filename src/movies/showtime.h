@@ -22,6 +22,9 @@ class showtime {
     const std::string& getName() const { return name; }
     void setAds(int& count);
     int getAds() const { return ads; }
+    // What the ads take off the movie's popularity at this showtime, and what they pay a day.
+    int adsPopularityLoss() const;
+    double adsIncome() const;
     void saveSelf(LineWriter& out) const;
     void loadSelf(LineReader& in, int number);
     void setMyMovie(int number);
@@ -29,7 +32,8 @@ class showtime {
     void setMatinee(int flag);
     void toggleMatinee();
     double getMyPrice();
-    void doBusiness();
+    // Today's show in a house of `seating` seats.
+    void doBusiness(int seating);
     int getTodaysTicketSales() const { return todaysticketsales; }
     double getTodaysIncome() const { return todaysincome; }
 

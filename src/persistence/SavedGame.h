@@ -48,8 +48,6 @@ class SavedGame {
     void writeAll(const std::string& path);
     void readAll(const std::string& path);
 
-    Game& game() { return game_; }
-
   private:
     Game& game_;
 };

@@ -46,8 +46,6 @@ class promoManager {
     // The captions of the point labels, written at set-up.
     const std::array<std::string, 5>& pointLabels() const { return pointLabels_; }
 
-    Game& game() { return game_; }
-
   private:
     std::size_t checkedIndex(int index) const;
 

@@ -60,8 +60,6 @@ class ratingManager {
     // Top of a month's bar for a value: Int((100 - value) * 7.2 + 2100).
     static int barTop(int value);
 
-    Game& game() { return game_; }
-
   private:
     void drawBar(int month, int value);
     void drawBar(int month) { drawBar(month, currentRating); }

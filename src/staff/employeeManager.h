@@ -90,8 +90,6 @@ class employeeManager {
     // The name the chart shows for post p, as it stood at start-up.
     const std::string& positionCaption(int p) const;
 
-    Game& game() { return game_; }
-
     double minWage = 0;     // dollars per hour
     Int16 monthsSinceRaise; // not saved: a load starts the count anew
 

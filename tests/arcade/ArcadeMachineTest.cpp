@@ -52,12 +52,12 @@ TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
     a.PricePerPlay = 2; // $0.50: base = floor(60 - 50 * 0.5) = 35
     // plays so far 5: chance 30. Roll 31 does not play and draws nothing more.
     g().rng.force(roll(31));
-    EXPECT_FALSE(a.play(a.playTerms(), 5));
+    EXPECT_FALSE(a.play(a.playTerms(), 5, g().rng));
     EXPECT_EQ(g().rng.forcedLeft(), 0u);
     EXPECT_EQ(a.TotalPlays, 0);
     // Roll 30 plays; then the breakdown roll.
     g().rng.force({roll(30), 0.9});
-    EXPECT_TRUE(a.play(a.playTerms(), 5));
+    EXPECT_TRUE(a.play(a.playTerms(), 5, g().rng));
     EXPECT_EQ(g().rng.forcedLeft(), 0u);
     EXPECT_EQ(a.TotalPlays, 1);
     EXPECT_EQ(a.Income, 0.5);
@@ -69,13 +69,13 @@ TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
 TEST_F(Machine, FreePlayPlaysAtPopularityAndCanBreak) {
     arcade& a = addMachine(title(1, "Zap", 40));
     g().rng.force({roll(40), 0.0}); // roll 40 = Pop; the breakdown roll 1
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_EQ(a.TotalPlays, 1);
     EXPECT_EQ(a.Income, 0);
     EXPECT_TRUE(a.IamBroke);
     g().rng.force(roll(41)); // would be roll 41, but a broken machine draws nothing
     const auto draws = g().rng.draws();
-    EXPECT_FALSE(a.play(a.playTerms(), 0));
+    EXPECT_FALSE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_EQ(g().rng.draws(), draws);
     EXPECT_EQ(g().rng.forcedLeft(), 1u);
 }
@@ -84,14 +84,14 @@ TEST_F(Machine, PriceIndexOutsideTheTableIsFatal) {
     arcade& a = addMachine(title(1, "Zap", 40));
     a.setPricePerPlay(5); // no range check when set
     EXPECT_EQ(a.PricePerPlay, 5);
-    EXPECT_THROW(a.play(a.playTerms(), 0), GameError);
+    EXPECT_THROW(a.play(a.playTerms(), 0, g().rng), GameError);
 }
 
 TEST_F(Machine, BreakdownRefundsThePlayAndKeepsTheTotals) {
     arcade& a = addMachine(title(1, "Zap", 100));
     a.PricePerPlay = 4;              // $1.00
     g().rng.force({0.0, 0.0004999}); // play; 2000 * r + 1 floors to 1
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_TRUE(a.IamBroke);
     EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
     EXPECT_EQ(g().finances.funds, 10000);  // earned and paid back
@@ -106,7 +106,7 @@ TEST_F(Machine, BreakdownRefundsThePlayAndKeepsTheTotals) {
 TEST_F(Machine, BreakRollOfTwoDoesNotBreak) {
     arcade& a = addMachine(title(1, "Zap", 100));
     g().rng.force({0.0, 0.00051}); // 2000 * r + 1 floors to 2
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_FALSE(a.IamBroke);
 }
 
@@ -116,7 +116,7 @@ TEST_F(Machine, RefundThatFundsCannotCoverIsDroppedSilently) {
     g().finances.setFunds(0.6); // 0.6 + 0.5 - 0.5 would leave under 1
     const std::size_t before = screen().lines.size();
     g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_TRUE(a.IamBroke);
     EXPECT_DOUBLE_EQ(g().finances.funds, 1.1);
     EXPECT_EQ(g().finances.totalspent, 0);
@@ -164,7 +164,7 @@ TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
     arcade& a = addMachine(title(1, "Zap", 100));
     a.Age = 3;
     g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(a.playTerms(), 0));
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_FALSE(a.IamBroke);
     EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
     EXPECT_TRUE(logged("Zap has been repaired for $60"));
@@ -177,10 +177,10 @@ TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     arcade& second = addMachine(title(2, "Two", 100));
     am().showGameDetails(1);
     g().rng.force({0.0, 0.9}); // machine 2 plays: the panel stays on machine 1
-    EXPECT_TRUE(second.play(second.playTerms(), 0));
+    EXPECT_TRUE(second.play(second.playTerms(), 0, g().rng));
     EXPECT_EQ(am().detailsNum, 1);
     g().rng.force({0.0, 0.0}); // machine 2 breaks: the panel jumps to it
-    EXPECT_TRUE(second.play(second.playTerms(), 0));
+    EXPECT_TRUE(second.play(second.playTerms(), 0, g().rng));
     EXPECT_EQ(am().detailsNum, 2);
     EXPECT_TRUE(arcadeDetails(am()).broken);
     EXPECT_EQ(arcadeDetails(am()).condition, "Broken");

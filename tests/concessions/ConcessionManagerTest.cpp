@@ -19,20 +19,13 @@ int refreshes(const RecordingScreen& screen, View v) {
 
 } // namespace
 
-TEST(ConcessionVisitors, FewerVisitorsAsTheCrowdGrows) {
-    // Kept on purpose: percentconcessions * 100 / crowd.
-    EXPECT_EQ(visitorsOf(100, 8), 8);
-    EXPECT_EQ(visitorsOf(200, 8), 4);
-    EXPECT_EQ(visitorsOf(50, 8), 16);
-    EXPECT_EQ(visitorsOf(1, 8), 800);
-}
-
-TEST(ConcessionVisitors, RoundedHalfToEven) {
-    EXPECT_EQ(visitorsOf(320, 8), 2);  // 2.5
-    EXPECT_EQ(visitorsOf(200, 7), 4);  // 3.5
-    EXPECT_EQ(visitorsOf(1600, 8), 0); // 0.5
-    EXPECT_EQ(visitorsOf(1599, 8), 1); // just above 0.5
-    EXPECT_EQ(visitorsOf(300, 8), 3);  // 2.67
+// One rule for the arcade's and the stand's visitors: share * 100 / crowd, kept on purpose,
+// rounded half to even.
+TEST(CrowdVisitors, FewerAsTheCrowdGrowsRoundedHalfToEven) {
+    const int cases[][3] = {{100, 8, 8}, {200, 8, 4},  {50, 8, 16},  {1, 8, 800}, {320, 8, 2},
+                            {200, 7, 4}, {1600, 8, 0}, {1599, 8, 1}, {300, 8, 3}};
+    for (const auto& [crowd, share, visitors] : cases)
+        EXPECT_EQ(visitorsOf(crowd, share), visitors) << crowd << " " << share;
 }
 
 TEST(ConcessionVisitors, ACrowdOfNoneIsADivisionByZero) {

@@ -166,26 +166,6 @@ TEST_F(ItemFixture, StockOverflowIsFatal) {
     EXPECT_THROW(item(0).buyConcessions(), GameError);
 }
 
-TEST_F(ItemFixture, TheRowsShowTheUnitCostAndTheBaseCost) {
-    item(0).sell();
-    const ConcessionListing row = concessionListing(item(0), game->folder());
-    EXPECT_EQ(row.qualityList, (std::vector<std::string>{"low 0", "mid 0", "high 0"}));
-    EXPECT_EQ(row.qualityIndex, 1);
-    EXPECT_EQ(row.price, "$3");
-    EXPECT_EQ(row.yourCost, "$0.90");
-    EXPECT_EQ(row.soldToday, "1");
-    EXPECT_EQ(row.profit, "$2.10");
-    EXPECT_EQ(row.tip, "Popcorn");
-    EXPECT_NE(row.picture.find("images/concessions/item0.png"), std::string::npos);
-
-    const ConcessionStockRow stock = concessionStockRow(item(0));
-    EXPECT_EQ(stock.inStock, "9");
-    EXPECT_EQ(stock.buyPerMonth, "10");
-    EXPECT_EQ(stock.lastMonthSales, "0");
-    EXPECT_EQ(stock.costPerItem, "$0.70");
-    EXPECT_EQ(stock.totalCost, "$7");
-}
-
 // A saved game may give a quality the screen never offers: quality 3 finds a bonus no key
 // sets (0) and a unit cost of four steps; quality 4 is beyond the bonus table.
 TEST_F(ItemFixture, ALoadedQualityBeyondTheListStillSellsUntilTheTableEnds) {

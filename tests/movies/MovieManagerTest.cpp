@@ -197,7 +197,7 @@ TEST_F(Booker, SellingFromTheMiddleRenumbersAndBlanksTodaysFigures) {
     book(2, {2});
     book(3, {3, 4});
     for (int s = 1; s <= 4; ++s)
-        mm().showtimeAt(s).doBusiness();
+        mm().showtimeAt(s).doBusiness(g().building.getSeating());
     ASSERT_GT(mm().showtimeAt(1).getTodaysTicketSales(), 0);
     const double price = mm().myMovieAt(2).getMyPrice();
     const double funds = g().finances.getFunds();
@@ -412,7 +412,7 @@ TEST_F(Booker, LoadedMoviesAreNewObjectsWithoutTodaysSales) {
     g().building.seating = 150;
     own({1});
     book(1, {3});
-    mm().showtimeAt(3).doBusiness();
+    mm().showtimeAt(3).doBusiness(g().building.getSeating());
     EXPECT_TRUE(mm().sharesObject(1, 1));
     const double income = mm().myMovieAt(1).getMyIncome();
     ASSERT_GT(mm().myMovieAt(1).getMySold(), 0);

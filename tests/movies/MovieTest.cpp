@@ -51,7 +51,7 @@ TEST_F(MovieUnit, PopularityAbove327CannotBePriced) {
 }
 
 TEST_F(MovieUnit, FirstDropComesOnTheSeventhDay) {
-    loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\n");
+    loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\nfirstPrice=6000\r\n");
     const auto draws = g().rng.draws();
     days(6);
     EXPECT_EQ(g().rng.draws(), draws); // no roll before the drop day
@@ -68,65 +68,54 @@ TEST_F(MovieUnit, FirstDropComesOnTheSeventhDay) {
     EXPECT_EQ(m().getMyPopularity(), 54);
 }
 
-TEST_F(MovieUnit, DropDaysOfOneDropsDailyAndBelowOneNever) {
-    loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\n");
-    math().moviepopdropdays = 1;
-    g().rng.force({0.0, 0.0});
-    days(2);
-    EXPECT_EQ(m().getMyPopularity(), 58);
-    math().moviepopdropdays = 0;
+// A bought movie's days: what it holds after `days` with the drop every `dropDays` days.
+struct DropCase {
+    const char* name;
+    int pop0, classic, paid, dropDays;
+    std::vector<double> draws; // forced; an empty list means no roll at all
+    int days, pop, price;      // price -1: not looked at
+    int minPop = 1;
+};
+
+const DropCase dropCases[] = {
+    {"DailyDrops", 60, 5, 6000, 1, {0.0, 0.0}, 2, 58, -1},
+    {"DropDaysBelowOneNeverDrop", 60, 5, 6000, 0, {}, 30, 60, 6000},
+    {"AtTheClassicLevelNoDropNorRoll", 20, 20, 900, 1, {}, 3, 20, 900},
+    {"ClassicAbovePopularityLiftsItPriceUnchanged", 10, 30, 1000, 7, {}, 1, 30, 1000},
+    // A drop of 8 passes below the classic level for one day; the classic level lifts it back.
+    {"ADropMayPassBelowTheClassicLevel", 52, 50, 5000, 1, {0.99}, 1, 44, -1},
+    {"TheClassicLevelLiftsItTheDayAfter", 52, 50, 5000, 1, {0.99}, 2, 50, -1},
+    // Int(1.0101 % of 6000) = 60, below resalemin.
+    {"PopularityStopsAtOneAndResaleminHoldsThePrice", 3, 0, 6000, 1, {0.99}, 1, 1, 250},
+    // movieminpop narrows the span, not the popularity: 95 / 90 of the price paid.
+    {"ResaleMayPassWhatWasPaid", 96, 5, 6000, 1, {0.0}, 1, 95, 6333, 10},
+};
+
+struct DropTable : MovieUnit, ::testing::WithParamInterface<DropCase> {};
+
+TEST_P(DropTable, PopularityAndPriceAfterTheDays) {
+    const DropCase& c = GetParam();
+    math().movieminpop = c.minPop;
+    const std::string paid = std::to_string(c.paid);
+    loadInto(m(), "Pop=" + std::to_string(c.pop0) + "\r\nClassic=" + std::to_string(c.classic) +
+                      "\r\nPrice=" + paid + "\r\nfirstPrice=" + paid + "\r\n");
+    math().moviepopdropdays = c.dropDays;
     const auto draws = g().rng.draws();
-    days(30);
-    EXPECT_EQ(m().getMyPopularity(), 58);
-    EXPECT_EQ(g().rng.draws(), draws);
+    for (const double d : c.draws)
+        g().rng.force(d);
+    days(c.days);
+    EXPECT_EQ(m().getMyPopularity(), c.pop);
+    if (c.price >= 0) {
+        EXPECT_EQ(m().getMyPrice(), c.price);
+    }
+    if (c.draws.empty()) {
+        EXPECT_EQ(g().rng.draws(), draws);
+    }
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
 }
 
-TEST_F(MovieUnit, AtItsClassicLevelAMovieNeitherDropsNorRolls) {
-    loadInto(m(), "Pop=20\r\nClassic=20\r\nPrice=900\r\nfirstPrice=900\r\n");
-    math().moviepopdropdays = 1;
-    const auto draws = g().rng.draws();
-    days(3);
-    EXPECT_EQ(m().getMyPopularity(), 20);
-    EXPECT_EQ(m().getMyPrice(), 900);
-    EXPECT_EQ(g().rng.draws(), draws);
-}
-
-TEST_F(MovieUnit, ClassicAbovePopularityLiftsItWithThePriceUnchanged) {
-    loadInto(m(), "Pop=10\r\nClassic=30\r\nPrice=1000\r\nfirstPrice=1000\r\n");
-    days(1);
-    EXPECT_EQ(m().getMyPopularity(), 30);
-    EXPECT_EQ(m().getMyPrice(), 1000);
-}
-
-TEST_F(MovieUnit, ADropMayPassBelowTheClassicLevelForOneDay) {
-    loadInto(m(), "Pop=52\r\nClassic=50\r\nPrice=5000\r\nfirstPrice=5000\r\n");
-    math().moviepopdropdays = 1;
-    g().rng.force(0.99); // a drop of 8
-    days(1);
-    EXPECT_EQ(m().getMyPopularity(), 44);
-    days(1);
-    EXPECT_EQ(m().getMyPopularity(), 50);
-}
-
-TEST_F(MovieUnit, PopularityStopsAtOneAndResaleminHoldsThePrice) {
-    loadInto(m(), "Pop=3\r\nClassic=0\r\nPrice=6000\r\nfirstPrice=6000\r\n");
-    math().moviepopdropdays = 1;
-    g().rng.force(0.99);
-    days(1);
-    EXPECT_EQ(m().getMyPopularity(), 1);
-    EXPECT_EQ(m().getMyPrice(), 250); // Int(1.0101 % of 6000) = 60, below resalemin
-}
-
-TEST_F(MovieUnit, ResaleMayPassWhatWasPaid) {
-    // The popularity is not reduced by movieminpop, only the span is: 95 / 90 of the price.
-    math().movieminpop = 10;
-    loadInto(m(), "Pop=96\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\n");
-    math().moviepopdropdays = 1;
-    g().rng.force(0.0);
-    days(1);
-    EXPECT_EQ(m().getMyPopularity(), 95);
-    EXPECT_EQ(m().getMyPrice(), 6333);
-}
+INSTANTIATE_TEST_SUITE_P(Days, DropTable, ::testing::ValuesIn(dropCases),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(MovieUnit, ProfitIsZeroUntilTheFirstTicket) {
     loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\n");

@@ -88,7 +88,7 @@ TEST_F(Shows, TodaysShowSellsDemandTimesSeatsAndPaysTheAds) {
     mm().setShowtimeAds(5, 2);
     const Finances before = g().finances;
     g().rng.force(standardRoll);
-    st(5).doBusiness();
+    st(5).doBusiness(g().building.getSeating());
     // Popularity 50 - 4 = 46: 15 + 27.6 - 36 + 8 = 14.6 percent of 200 seats, floored: 29.
     EXPECT_EQ(st(5).getTodaysTicketSales(), 29);
     // Seniors Int(29 * 15 / 100) = 4 at $4, the other 25 at $6.
@@ -105,15 +105,15 @@ TEST_F(Shows, TodaysShowSellsDemandTimesSeatsAndPaysTheAds) {
 TEST_F(Shows, ASecondRunStartsTheShowtimesFiguresAfresh) {
     book(1, {5});
     g().rng.force({standardRoll, standardRoll});
-    st(5).doBusiness();
-    st(5).doBusiness();
+    st(5).doBusiness(g().building.getSeating());
+    st(5).doBusiness(g().building.getSeating());
     EXPECT_EQ(st(5).getTodaysTicketSales(), 34);         // 15 + 30 - 36 + 8 = 17 percent of 200
     EXPECT_EQ(mm().myMovieAt(1).getTodaysTickets(), 68); // the movie's day adds up
 }
 
 TEST_F(Shows, MatineeShowSplitsSeniorsOffTheMatineePrice) {
     book(1, {1});
-    st(1).doBusiness();
+    st(1).doBusiness(g().building.getSeating());
     // 15 + 30 - 27 - 6 = 12 percent: 24 tickets; 3 seniors at $4, 21 at $4.50.
     EXPECT_EQ(st(1).getTodaysTicketSales(), 24);
     EXPECT_DOUBLE_EQ(st(1).getTodaysIncome(), 21 * 4.5 + 3 * 4);
@@ -123,7 +123,7 @@ TEST_F(Shows, SeniorPriceEqualToMatineeMeansNoSeniorsYetDemandRollsSenior) {
     mm().setTicketPrice(2, 4.5);
     book(1, {3});
     g().rng.force(seniorRoll); // demand sees the senior price, $4.50
-    st(3).doBusiness();
+    st(3).doBusiness(g().building.getSeating());
     // 15 + 30 - 27 - 2 = 16 percent: 32 tickets, all at the standard price.
     EXPECT_EQ(st(3).getTodaysTicketSales(), 32);
     EXPECT_DOUBLE_EQ(st(3).getTodaysIncome(), 32 * 6);
@@ -135,7 +135,7 @@ TEST_F(Shows, AdsPayWhateverTheTurnout) {
     mm().setShowtimeAds(3, 5);
     const double before = g().finances.totalincome;
     g().rng.force(standardRoll);
-    st(3).doBusiness();
+    st(3).doBusiness(g().building.getSeating());
     EXPECT_EQ(st(3).getTodaysTicketSales(), 2); // 1 percent at least
     EXPECT_DOUBLE_EQ(g().finances.totalincome - before, 2 * 6 + 5 * 15);
 }
@@ -147,7 +147,7 @@ TEST_F(Shows, NoSeatsNoTicketsAndTheCrowdCannotBeShared) {
     mm().myMovieAt(1).setMyPopularity(1);
     book(1, {3});
     g().rng.force(standardRoll);
-    EXPECT_THROW(st(3).doBusiness(), GameError);
+    EXPECT_THROW(st(3).doBusiness(g().building.getSeating()), GameError);
 }
 
 TEST_F(Shows, TogglingMatineeTellsTheLog) {

@@ -18,47 +18,6 @@ struct MainScreenFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(MainScreenFixture, SummaryShowsTheTotalsInLongAndShortMoney) {
-    game->finances.setFunds(1500);
-    game->finances.earn(2500.5, "movie");
-    ASSERT_TRUE(game->finances.spend(1000, "labor"));
-    const MoneySummary s = moneySummary(*game);
-    EXPECT_EQ(s.funds, formatMoney(game->finances.funds));
-    EXPECT_EQ(s.income, "$2,500.50");
-    EXPECT_EQ(s.spent, "$1,000");
-    EXPECT_EQ(s.profit, "$1,500.50");
-    EXPECT_EQ(s.ticketSales, formatMoneyShort(2500.5));
-    EXPECT_EQ(s.depLabor, formatMoneyShort(1000));
-    EXPECT_EQ(s.depLoan, formatMoneyShort(0));
-}
-
-TEST_F(MainScreenFixture, DayBarsLightTheCurrentDayAndPutTheButtonUnderIt) {
-    game->calendar.currentday = 4;
-    game->calendar.currentweek = 2;
-    const DayBars bars = dayBars(*game);
-    for (int d = 0; d < 7; ++d) {
-        const DayBar& bar = bars.days[static_cast<std::size_t>(d)];
-        EXPECT_EQ(bar.height, d == 4 ? 375 : 255) << d;
-        EXPECT_EQ(bar.colour, d == 4 ? 0x80C0FFu : 0xC0E0FFu) << d;
-    }
-    EXPECT_EQ(bars.days[0].caption, "Sun");
-    EXPECT_EQ(bars.days[6].caption, "Sat");
-    EXPECT_LT(bars.days[3].left, bars.days[4].left);
-    EXPECT_EQ(bars.nextDayLeft, bars.days[4].left);
-    EXPECT_EQ(bars.nextDayCaption, ">>>");
-}
-
-TEST_F(MainScreenFixture, MonthLabelsLightTheCurrentMonthAndTheYearIsItsDigits) {
-    game->calendar.currentmonth = 11;
-    game->calendar.currentyear = 12;
-    const auto labels = monthLabels(*game);
-    EXPECT_EQ(labels[0].caption, "Jan");
-    EXPECT_EQ(labels[0].colour, 0xC0FFFFu);
-    EXPECT_EQ(labels[11].caption, "Dec");
-    EXPECT_EQ(labels[11].colour, 0x00FFFFu);
-    EXPECT_EQ(yearText(*game), "12");
-}
-
 TEST_F(MainScreenFixture, ExpandTogglesOrSetsTheDetailsAndTheHeightsFollow) {
     struct Step {
         const char* text;

@@ -109,12 +109,6 @@ std::string runScript(const DataFolder& data, const std::vector<std::string>& sc
 
 } // namespace
 
-TEST(Simulator, SameSeedSameGame) {
-    DataFolder data;
-    const std::vector<std::string> script = {"day 60", "state"};
-    EXPECT_EQ(runScript(data, script, 5), runScript(data, script, 5));
-}
-
 TEST(Simulator, AMathFileArgumentReplacesMathTxtAlsoOnReload) {
     DataFolder data;
     const std::string math = readFile(data.file("math.txt"));
