@@ -1,7 +1,7 @@
 #include "FuzzSupport.h"
 #include "SaveCompare.h"
 
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -158,7 +158,7 @@ std::string saveSections(Game& game, std::initializer_list<const char*> tags) {
     std::ostringstream text;
     LineWriter out(text);
     for (const char* tag : tags)
-        for (const SavedGame::Section& s : SavedGame::sections())
+        for (const GameFiles::Section& s : GameFiles::sections())
             if (std::string(s.tag) == tag)
                 s.save(game, out);
     return text.str();
@@ -169,7 +169,7 @@ void loadSections(Game& game, const std::string& text) {
     LineReader in(file, "saved sections");
     std::string line;
     while (in.readLine(line))
-        for (const SavedGame::Section& s : SavedGame::sections())
+        for (const GameFiles::Section& s : GameFiles::sections())
             if (line == s.tag)
                 s.load(game, in);
 }

@@ -7,7 +7,7 @@
 // change: the titles travel through the save.
 #include "FuzzSupport.h"
 
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 
 using namespace zorvane;
 using namespace zorvane::fuzz;

@@ -8,7 +8,7 @@
 #include "FuzzSupport.h"
 #include "SaveCompare.h"
 
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 #include <map>
 
@@ -40,7 +40,7 @@ bool readsASectionTwice(const std::string& text) {
     std::map<std::string, int> seen;
     for (const std::string& line : saveLines(text)) {
         const std::string tag = toLower(line);
-        for (const SavedGame::Section& s : SavedGame::sections())
+        for (const GameFiles::Section& s : GameFiles::sections())
             if (tag == s.tag && ++seen[tag] > 1)
                 return true;
     }

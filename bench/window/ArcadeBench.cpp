@@ -50,7 +50,7 @@ void BM_ArcadeDragMove(benchmark::State& state) {
     }
     // Five rows of four, the rows overlapping as a crowded room's do.
     for (int i = 1; i <= 20; ++i) {
-        const arcadeCabinet& c = arcades.room.cabinet(i);
+        const ArcadeCabinet& c = arcades.room.cabinet(i);
         arcades.moveCabinet(i, 300 + ((i - 1) % 5) * 1900 - c.left,
                             1900 + ((i - 1) / 5) * 700 - c.top, 0, 0);
     }

@@ -57,7 +57,7 @@ class AdvisorStrategy : public Strategy {
     std::set<std::string> quitters_;
     void noteQuitters(const Game& game);
     bool hireable(const Game& game, const employee& c) const {
-        return !view::onStaff(game, c.name) && quitters_.count(c.name) == 0;
+        return !playerView::onStaff(game, c.name) && quitters_.count(c.name) == 0;
     }
     int goalIndex_ = 0;
 };
@@ -87,10 +87,10 @@ void AdvisorStrategy::beforeDay(Game& game) {
     staffPositions(game);
     keepAfloat(game);
     fillEmptyShowtimes(game);
-    if (view::weekStartsToday(game))
+    if (playerView::weekStartsToday(game))
         replaceFadingMovies(game);
     bookShowtimes(game);
-    if (view::weekStartsToday(game))
+    if (playerView::weekStartsToday(game))
         setTicketPrices(game);
     runArcade(game);
     runPromotions(game);
@@ -98,7 +98,7 @@ void AdvisorStrategy::beforeDay(Game& game) {
     staffYesterday_.clear();
     for (int n = 1; n <= game.employees.employeeCount(); ++n)
         staffYesterday_.insert(game.employees.getEmployee(n).getMyName());
-    if (view::monthEndsToday(game))
+    if (playerView::monthEndsToday(game))
         orderSnacks(game);
     repayAndBuy(game);
     keepAfloat(game);
@@ -107,19 +107,19 @@ void AdvisorStrategy::beforeDay(Game& game) {
 // The advisor never fires anybody, so whoever left the staff overnight quit.
 void AdvisorStrategy::noteQuitters(const Game& game) {
     for (const std::string& name : staffYesterday_)
-        if (!view::onStaff(game, name))
+        if (!playerView::onStaff(game, name))
             quitters_.insert(name);
 }
 
 double AdvisorStrategy::reserve(const Game& game) const {
-    double bills = view::snackOrderCost(game);
+    double bills = playerView::snackOrderCost(game);
     if (game.building.getRent() >= 1)
         bills += game.building.getRent();
     if (game.loans.getBalance() > 0)
         bills += game.loans.monthlyPayment;
     // Early in the month the takings of the weeks to come pay most of the bills.
-    const double due = view::daysLeftInMonth(game) <= 10 ? 1.0 : 0.25;
-    const double daily = view::dailyWages(game) + game.promos.getPromoCost();
+    const double due = playerView::daysLeftInMonth(game) <= 10 ? 1.0 : 0.25;
+    const double daily = playerView::dailyWages(game) + game.promos.getPromoCost();
     return bills * due + 7 * daily + cushion;
 }
 
@@ -135,7 +135,7 @@ void AdvisorStrategy::keepHouseOpen(Game& game) {
     buildingManager& house = game.building;
     if (!house.isInOrder()) {
         if (game.finances.getFunds() < house.repairCost + 1 && game.loans.getBalance() <= 0)
-            view::takeLoan(game, house.repairCost + 20000, game.math.loanpaymentsmax);
+            playerView::takeLoan(game, house.repairCost + 20000, game.math.loanpaymentsmax);
         house.repairBuilding();
     }
 }
@@ -202,7 +202,7 @@ int AdvisorStrategy::bestCandidate(const Game& game, int pos) const {
 // moves on, so the advisor keeps two, and takes a less ideal one when none came for a week.
 void AdvisorStrategy::keepOnCall(Game& game) {
     employeeManager& staff = game.employees;
-    if (!view::vacantPositions(game).empty() || view::idleStaff(game).size() >= onCallWanted) {
+    if (!playerView::vacantPositions(game).empty() || playerView::idleStaff(game).size() >= onCallWanted) {
         onCallWait_ = 0;
         return;
     }
@@ -236,7 +236,7 @@ int AdvisorStrategy::bestOffer(const Game& game, double budget) const {
     for (int row = 1; row <= mm.buyMoviesCount(); ++row) {
         const Movie& m = mm.buyMovieAt(row);
         if (m.getMyPrice() > budget || m.getMyPopularity() < goodMovie ||
-            view::ownsTitle(game, m.getMyTitle()))
+            playerView::ownsTitle(game, m.getMyTitle()))
             continue;
         if (best == 0 || m.getMyPopularity() > mm.buyMovieAt(best).getMyPopularity())
             best = row;
@@ -247,8 +247,8 @@ int AdvisorStrategy::bestOffer(const Game& game, double budget) const {
 // One movie for every showtime: the best good one on offer that the month can spare.
 void AdvisorStrategy::fillEmptyShowtimes(Game& game) {
     MovieManager& mm = game.movies;
-    const int shows = static_cast<int>(view::showtimesByAppeal(game).size());
-    if (!view::vacantPositions(game).empty() && mm.myMoviesCount() > 0)
+    const int shows = static_cast<int>(playerView::showtimesByAppeal(game).size());
+    if (!playerView::vacantPositions(game).empty() && mm.myMoviesCount() > 0)
         return; // no business without a full staff: no hurry to buy more
     while (mm.myMoviesCount() < shows) {
         const int row = bestOffer(game, spendable(game));
@@ -300,7 +300,7 @@ void AdvisorStrategy::bookShowtimes(Game& game) {
     std::stable_sort(movies.begin(), movies.end(), [&](int a, int b) {
         return mm.myMovieAt(a).getMyPopularity() > mm.myMovieAt(b).getMyPopularity();
     });
-    const std::vector<int> shows = view::showtimesByAppeal(game);
+    const std::vector<int> shows = playerView::showtimesByAppeal(game);
     for (std::size_t k = 0; k < shows.size(); ++k) {
         const int s = shows[k];
         const int wanted = k < movies.size() ? movies[k] : 0;
@@ -377,9 +377,9 @@ int AdvisorStrategy::bestMachineOffer(const Game& game, double budget) const {
 // and once nobody much plays a machine it goes back to the market for a fresh title.
 void AdvisorStrategy::runArcade(Game& game) {
     arcadeManager& room = game.arcades;
-    const int shows = static_cast<int>(view::showtimesByAppeal(game).size());
+    const int shows = static_cast<int>(playerView::showtimesByAppeal(game).size());
     const bool booked = game.movies.myMoviesCount() * 2 >= shows; // movies come first
-    if (booked && view::vacantPositions(game).empty()) {
+    if (booked && playerView::vacantPositions(game).empty()) {
         for (int n = room.getMachineCount(); n >= 1; --n) {
             const arcade& machine = room.myGameAt(n);
             if (machine.getPop() >= fadedMachine && !machine.getIamBroke())
@@ -430,8 +430,8 @@ void AdvisorStrategy::renovate(Game& game) {
 // of them go when money is short.
 void AdvisorStrategy::runPromotions(Game& game) {
     promoManager& promos = game.promos;
-    const int shows = static_cast<int>(view::showtimesByAppeal(game).size());
-    const bool full = view::vacantPositions(game).empty() && game.movies.myMoviesCount() >= shows;
+    const int shows = static_cast<int>(playerView::showtimesByAppeal(game).size());
+    const bool full = playerView::vacantPositions(game).empty() && game.movies.myMoviesCount() >= shows;
     if (!full || spendable(game) < 0) {
         if (promos.getPromoCost() > 0)
             promos.dropAllPromos();
@@ -494,9 +494,9 @@ void AdvisorStrategy::orderSnacks(Game& game) {
 // borrow. Already in debt, cut the promotions first.
 void AdvisorStrategy::keepAfloat(Game& game) {
     const double funds = game.finances.getFunds();
-    double need = 7 * view::dailyWages(game) + game.math.fundsmin + 500;
-    if (view::daysLeftInMonth(game) <= 7) {
-        need += view::snackOrderCost(game);
+    double need = 7 * playerView::dailyWages(game) + game.math.fundsmin + 500;
+    if (playerView::daysLeftInMonth(game) <= 7) {
+        need += playerView::snackOrderCost(game);
         if (game.building.getRent() >= 1)
             need += game.building.getRent();
         if (game.loans.getBalance() > 0)
@@ -511,7 +511,7 @@ void AdvisorStrategy::keepAfloat(Game& game) {
     const double most = game.loans.getCreditScore() * game.math.loanmlv;
     const double amount = std::min(most, std::max(30000.0, 2 * (need - funds)));
     if (amount >= 1000)
-        view::takeLoan(game, amount, 36);
+        playerView::takeLoan(game, amount, 36);
 }
 
 // Once the theater is running in full and well off: clear the debt and buy the building,
@@ -522,8 +522,8 @@ void AdvisorStrategy::keepAfloat(Game& game) {
 void AdvisorStrategy::repayAndBuy(Game& game) {
     const goal* g = playedGoal(game);
     const std::string aim = g ? g->getType() : std::string();
-    const int shows = static_cast<int>(view::showtimesByAppeal(game).size());
-    if (!view::vacantPositions(game).empty() || game.movies.myMoviesCount() < shows)
+    const int shows = static_cast<int>(playerView::showtimesByAppeal(game).size());
+    if (!playerView::vacantPositions(game).empty() || game.movies.myMoviesCount() < shows)
         return;
     loanManager& bank = game.loans;
     if (bank.getBalance() > 0 && aim != "creditscore") {
@@ -532,7 +532,7 @@ void AdvisorStrategy::repayAndBuy(Game& game) {
         if (spendable(game) - price > (aim == "debt" ? 0 : 30000))
             bank.payOffLoan();
     } else if (bank.getBalance() <= 0 && aim == "creditscore" && spendable(game) > 0) {
-        view::takeLoan(game, bank.getCreditScore() * game.math.loanmlv, game.math.loanpaymentsmax);
+        playerView::takeLoan(game, bank.getCreditScore() * game.math.loanmlv, game.math.loanpaymentsmax);
     }
     if (game.building.getRent() >= 1 && aim != "funds") {
         const double price = game.building.getPurchasePrice();

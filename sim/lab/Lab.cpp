@@ -4,7 +4,7 @@
 #include "Strategy.h"
 #include "core/GameError.h"
 #include "movies/Demand.h"
-#include "reputation/ratingTerms.h"
+#include "reputation/RatingTerms.h"
 #include "session/Game.h"
 
 #include <algorithm>
@@ -118,7 +118,7 @@ MonthRecord monthRecord(const Game& game, const Ledger& was, int closedDays) {
     r.payRent = now.rentPaid - was.rentPaid;
     r.payOther = now.totalSpent - was.totalSpent - r.payLabor - r.payMovie - r.payPromo -
                  r.payArcade - r.payConcessions - r.payLoan - r.payRent;
-    r.wageBill = view::dailyWages(game);
+    r.wageBill = playerView::dailyWages(game);
     for (int i = 0; i < 3; ++i)
         r.tickets[static_cast<std::size_t>(i)] = game.movies.getTicketPrice(i);
     r.termDemand = expectedDemandTerm(game);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace zorvane::lab::view {
+namespace zorvane::lab::playerView {
 
 bool monthEndsToday(const Game& game) {
     return game.calendar.currentday == 6 && game.calendar.currentweek >= 3;
@@ -76,4 +76,4 @@ void takeLoan(Game& game, double amount, int payments) {
                         std::to_string(payments));
 }
 
-} // namespace zorvane::lab::view
+} // namespace zorvane::lab::playerView

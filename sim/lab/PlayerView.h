@@ -7,7 +7,7 @@
 // What a player reads off the screens before deciding, and the few screen gestures that
 // take more than one call. The strategies share these; none of them changes the game on
 // its own account.
-namespace zorvane::lab::view {
+namespace zorvane::lab::playerView {
 
 // The day about to be played ends the game month (the fourth week's last day).
 bool monthEndsToday(const Game& game);
@@ -41,4 +41,4 @@ void typeIntoNextInputBox(Game& game, const std::string& text);
 // this loan.".
 void takeLoan(Game& game, double amount, int payments);
 
-} // namespace zorvane::lab::view
+} // namespace zorvane::lab::playerView

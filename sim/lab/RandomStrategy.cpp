@@ -2,7 +2,7 @@
 
 #include "PlayerView.h"
 
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -165,7 +165,7 @@ void RandomStrategy::staff(Game& game) {
         did("wage");
         // The input box: Cancel, a word, or an amount, with or without a dollar sign.
         const int answer = pick(0, 3);
-        view::typeIntoNextInputBox(game, answer == 0 ? "" : answer == 1 ? "lots" : money(0, 25));
+        playerView::typeIntoNextInputBox(game, answer == 0 ? "" : answer == 1 ? "lots" : money(0, 25));
         staff.getPosition(pick(1, 7)).setWageInput();
     }
 }
@@ -327,7 +327,7 @@ void RandomStrategy::bank(Game& game) {
         did("loan");
         const int payments = pick(1, 60);
         const int amount = pick(0, 150) * 1000;
-        view::takeLoan(game, amount, payments);
+        playerView::takeLoan(game, amount, payments);
     } else {
         did("payoff");
         game.loans.payOffLoan();

@@ -38,7 +38,7 @@ json titleState(const Game& game, const arcade& t, bool inRoom) {
               {"myCabLeft", t.myCabLeft},
               {"cost", t.cost}};
     if (inRoom && game.arcades.room.exists(t.getNum())) {
-        const arcadeCabinet& cab = game.arcades.room.cabinet(t.getNum());
+        const ArcadeCabinet& cab = game.arcades.room.cabinet(t.getNum());
         j["left"] = cab.left;
         j["top"] = cab.top;
     }

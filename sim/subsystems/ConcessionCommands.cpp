@@ -1,6 +1,6 @@
 #include "Subsystems.h"
 
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane::sim {
 

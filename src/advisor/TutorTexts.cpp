@@ -1,8 +1,8 @@
 #include "advisor/TutorTexts.h"
 
 #include "session/Game.h"
-#include "session/mainTexts.h"
-#include "core/Toolbox.h"
+#include "session/MainTexts.h"
+#include "core/Text.h"
 
 #include <array>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "arcade/arcade.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 #include <cfloat>
@@ -137,7 +137,7 @@ void arcade::inflate() {
 
 void arcade::setTitleColor() {
     game_->arcades.room.title(Num).color =
-        IamBroke ? arcadeRoom::titleBroken : arcadeRoom::titleWorking;
+        IamBroke ? ArcadeRoom::titleBroken : ArcadeRoom::titleWorking;
     game_->screen().updateCabinet(Num);
 }
 
@@ -169,7 +169,7 @@ double arcade::getPrice() const {
 // Puts the machine's cabinet and title into the room at index Num: at its saved place when
 // one was stored, else where the room's template stands.
 void arcade::makeCabinet() {
-    arcadeRoom& room = game_->arcades.room;
+    ArcadeRoom& room = game_->arcades.room;
     room.create(Num);
     game_->screen().createCabinet(Num);
     setCabinetFile();
@@ -195,7 +195,7 @@ void arcade::setCabinetFileNum(int style) {
 // A cabinet left of the divider (or on it) faces right with the L picture, one right of it
 // the R picture, so every machine faces the room's centre. A path already loaded is skipped.
 void arcade::setCabinetFile() {
-    arcadeRoom& room = game_->arcades.room;
+    ArcadeRoom& room = game_->arcades.room;
     const bool facingRight = room.cabinet(Num).left > room.dividerX;
     const std::string path =
         game_->dataPath(arcadeFolder + cabinetFileName(CabinetImageFileNumber, facingRight));
@@ -209,9 +209,9 @@ void arcade::setCabinetFile() {
 
 // Centres the title 360 twips above the cabinet.
 void arcade::positionTitle(int index) {
-    arcadeRoom& room = game_->arcades.room;
-    const arcadeCabinet& cab = room.cabinet(index);
-    arcadeTitle& title = room.title(index);
+    ArcadeRoom& room = game_->arcades.room;
+    const ArcadeCabinet& cab = room.cabinet(index);
+    ArcadeTitle& title = room.title(index);
     title.top = cab.top - 360;
     title.left = cab.left + cab.width / 2 - static_cast<float>(Int(title.width / 2));
     game_->screen().updateCabinet(index);
@@ -238,7 +238,7 @@ void arcade::saveSelf(LineWriter& out, const std::string& listWord) const {
     out << "Income=" + numberText(Income);
     if (toLower(listWord) == "my") {
         // The place is read off the cabinet as it stands now.
-        const arcadeCabinet& cab = game_->arcades.room.cabinet(Num);
+        const ArcadeCabinet& cab = game_->arcades.room.cabinet(Num);
         out << "MyCabTop=" + floatText(cab.top);
         out << "myCabLeft=" + floatText(cab.left);
     }

@@ -1,8 +1,8 @@
 #include "arcade/arcadeManager.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 #include <fstream>
@@ -215,7 +215,7 @@ void arcadeManager::showGameDetails(int number) {
 // is not written: saving reads the place off the cabinet.
 void arcadeManager::moveCabinet(int number, float x, float y, float grabX, float grabY) {
     arcade& machine = myGameAt(number);
-    arcadeCabinet& cab = room.cabinet(number);
+    ArcadeCabinet& cab = room.cabinet(number);
     cab.top = y - grabY + cab.top;
     cab.left = x - grabX + cab.left;
     machine.setCabinetFile();

@@ -1,6 +1,6 @@
 #pragma once
 #include "arcade/arcade.h"
-#include "arcade/arcadeRoom.h"
+#include "arcade/ArcadeRoom.h"
 #include "core/Numbers.h"
 
 #include <array>
@@ -28,7 +28,7 @@ class arcadeManager {
     GameList allGames;
     GameList buyGames;
     GameList myGames;
-    arcadeRoom room;
+    ArcadeRoom room;
     std::vector<std::string> priceList; // the drop-down: "Free Play", then the four prices
     bool detailsVisible = false;        // frmDetails shown
     Int16 detailsNum;                   // lblGameDetailsNum: the machine the panel shows

@@ -1,8 +1,8 @@
 #include "concessions/ConcessionManager.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 namespace zorvane {

@@ -2,8 +2,8 @@
 
 #include "core/DialogPort.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "core/Version.h"
 
 #include <fstream>

@@ -5,7 +5,7 @@ namespace zorvane {
 // The views a screen may have to repaint. The logic only says "this view is stale";
 // the screen asks the logic for the view's content when it next paints: each value has
 // its view function in a subsystem's <subject>Texts.h, the main screen's in
-// session/mainTexts.h (tests/session/ViewsTest.cpp holds the whole map).
+// session/MainTexts.h (tests/session/ViewsTest.cpp holds the whole map).
 enum class View {
     // main screen
     Finances,    // refreshFinances: the money summary

@@ -1,8 +1,8 @@
 #include "goals/goalManager.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 #include <fstream>

@@ -1,7 +1,7 @@
 #include "money/GraphTexts.h"
 
 #include "core/GameError.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "money/Finances.h"
 #include "money/GraphManager.h"
 

@@ -1,9 +1,9 @@
 #include "reputation/ratingManager.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
-#include "reputation/ratingTerms.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
+#include "reputation/RatingTerms.h"
 #include "session/Game.h"
 
 namespace zorvane {

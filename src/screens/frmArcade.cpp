@@ -3,7 +3,7 @@
 #include "frmArcadePictures.h"
 
 #include "Screenshots.h"
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
@@ -36,8 +36,8 @@ namespace zorvane::screens {
 namespace {
 
 // The room picture and the details panel over it, in pixels.
-constexpr int roomWidth = static_cast<int>(arcadeRoom::roomWidth) / twipsPerPixel;
-constexpr int roomHeight = static_cast<int>(arcadeRoom::roomHeight) / twipsPerPixel;
+constexpr int roomWidth = static_cast<int>(ArcadeRoom::roomWidth) / twipsPerPixel;
+constexpr int roomHeight = static_cast<int>(ArcadeRoom::roomHeight) / twipsPerPixel;
 constexpr int panelWidth = 262, panelHeight = 316, panelMargin = 4;
 constexpr int sliderLeft = 8, sliderTop = 146, sliderWidth = 246, sliderHeight = 18;
 // A cabinet dragged past the room's edge keeps this much of itself in the room, so it can
@@ -444,11 +444,11 @@ void frmArcade::paintDetails() {
 // The panel stands on the side of the room away from its machine, so the machine stays in
 // sight.
 void frmArcade::placeDetails(int index) {
-    const arcadeRoom& room = game_.arcades.room;
+    const ArcadeRoom& room = game_.arcades.room;
     bool onLeft = false;
     if (room.exists(index)) {
-        const arcadeCabinet& c = room.cabinet(index);
-        onLeft = c.left + c.width / 2 > arcadeRoom::roomWidth / 2;
+        const ArcadeCabinet& c = room.cabinet(index);
+        onLeft = c.left + c.width / 2 > ArcadeRoom::roomWidth / 2;
     }
     frmDetails_->move(onLeft ? panelMargin : roomWidth - panelWidth - panelMargin, 2);
 }
@@ -509,7 +509,7 @@ void frmArcade::createCabinet(int index) {
 // Puts cabinet and title where the logic has them. A cabinet out past the room's edge is
 // drawn with a strip of itself still inside, its title beside it, so it can be dragged back.
 void frmArcade::updateCabinet(int index) {
-    const arcadeRoom& room = game_.arcades.room;
+    const ArcadeRoom& room = game_.arcades.room;
     if (index < 1 || !room.exists(index))
         return;
     if (!imgGame_.count(index)) {
@@ -518,8 +518,8 @@ void frmArcade::updateCabinet(int index) {
     }
     CabinetPicture* cab = imgGame_[index];
     CabinetTitle* title = lblGameName_[index];
-    const arcadeCabinet& c = room.cabinet(index);
-    const arcadeTitle& t = room.title(index);
+    const ArcadeCabinet& c = room.cabinet(index);
+    const ArcadeTitle& t = room.title(index);
 
     const int w = std::max(1, toPx(c.width)), h = std::max(1, toPx(c.height));
     const int x = std::clamp(toPx(c.left), keepInRoom - w, roomWidth - keepInRoom);
@@ -565,7 +565,7 @@ void frmArcade::previewCabinet(const std::string& path) {
 // --- the mouse and the keys ---
 
 QPointF frmArcade::cabinetPoint(int index, QMouseEvent* e) const {
-    const arcadeCabinet& c = game_.arcades.room.cabinet(index);
+    const ArcadeCabinet& c = game_.arcades.room.cabinet(index);
     const QPointF inRoom = e->position() + QPointF(imgGame_.at(index)->pos());
     return {inRoom.x() * twipsPerPixel - c.left, inRoom.y() * twipsPerPixel - c.top};
 }
@@ -689,7 +689,7 @@ void frmArcade::addScreenshots(Screenshots& shots) {
         const float places[6][2] = {{700, 1850},  {1900, 3150}, {3000, 1900},
                                     {6100, 1850}, {7900, 2300}, {3900, 3150}};
         for (int i = 1; i <= a.getMachineCount() && i <= 6; ++i) {
-            const arcadeCabinet& c = a.room.cabinet(i);
+            const ArcadeCabinet& c = a.room.cabinet(i);
             a.moveCabinet(i, places[i - 1][0] - c.left, places[i - 1][1] - c.top, 0, 0);
         }
         // Machine 6 was dragged from the left half over the divider: it turned round.

@@ -1,6 +1,6 @@
 #include "frmBuilding.h"
 
-#include "building/buildingTexts.h"
+#include "building/BuildingTexts.h"
 #include "frame/ButtonLabel.h"
 #include "Screenshots.h"
 #include "frame/Look.h"

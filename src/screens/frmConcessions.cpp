@@ -1,8 +1,8 @@
 #include "frmConcessions.h"
 
 #include "Screenshots.h"
-#include "concessions/concessionTexts.h"
-#include "core/Toolbox.h"
+#include "concessions/ConcessionTexts.h"
+#include "core/Text.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frame/Twips.h"

@@ -1,7 +1,7 @@
 #include "frmLoader.h"
 
 #include "session/Game.h"
-#include "goals/goalTexts.h"
+#include "goals/GoalTexts.h"
 #include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"

@@ -1,8 +1,8 @@
 #include "frmMain.h"
 
 #include "session/Game.h"
-#include "reputation/reputationTexts.h"
-#include "session/mainTexts.h"
+#include "reputation/ReputationTexts.h"
+#include "session/MainTexts.h"
 #include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"

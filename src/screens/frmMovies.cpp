@@ -1,12 +1,12 @@
 #include "frmMovies.h"
 
 #include "Screenshots.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
-#include "movies/movieTexts.h"
+#include "movies/MovieTexts.h"
 #include "ports/QtScreen.h"
 #include "session/Game.h"
 

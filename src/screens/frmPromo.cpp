@@ -7,7 +7,7 @@
 #include "frame/Twips.h"
 #include "ports/QtScreen.h"
 #include "reputation/promoManager.h"
-#include "reputation/reputationTexts.h"
+#include "reputation/ReputationTexts.h"
 #include "session/Game.h"
 
 #include <QFrame>

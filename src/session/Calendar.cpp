@@ -1,7 +1,7 @@
 #include "session/Calendar.h"
 
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "core/GameError.h"
 #include "session/TitleScreen.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane {
 

@@ -18,7 +18,7 @@
 #include "money/GraphManager.h"
 #include "money/loanManager.h"
 #include "movies/MovieManager.h"
-#include "persistence/SavedGame.h"
+#include "persistence/GameFiles.h"
 #include "reputation/promoManager.h"
 #include "reputation/ratingManager.h"
 #include "settings/SettingsBoxes.h"
@@ -136,7 +136,7 @@ class Game {
     loanManager loans;
     GraphManager graph;
     goalManager goals;
-    SavedGame files;
+    GameFiles files;
     SettingsBoxes settingsBoxes; // frmSettings
     SoundBoard soundBoard;       // frmSound
     Tutor tutor;                 // frmTutor, the business advisor

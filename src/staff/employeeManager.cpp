@@ -1,11 +1,11 @@
 #include "staff/employeeManager.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
-#include "staff/employeesCfg.h"
-#include "staff/staffTexts.h"
+#include "staff/EmployeesCfg.h"
+#include "staff/StaffTexts.h"
 
 #include <array>
 #include <cmath>

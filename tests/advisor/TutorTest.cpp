@@ -1,5 +1,5 @@
 #include "advisor/TutorTexts.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "support/SoundGame.h"
 
 #include <gtest/gtest.h>

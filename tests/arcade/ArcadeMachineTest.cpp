@@ -1,8 +1,8 @@
 #include "ArcadeFixture.h"
 
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 
 #include <sstream>
 
@@ -100,7 +100,7 @@ TEST_F(Machine, BreakdownRefundsThePlayAndKeepsTheTotals) {
     EXPECT_EQ(g().finances.incdeparcade, 1);
     EXPECT_EQ(a.TotalPlays, 1);
     EXPECT_EQ(a.Income, 1);
-    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleBroken);
+    EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleBroken);
 }
 
 TEST_F(Machine, BreakRollOfTwoDoesNotBreak) {
@@ -136,7 +136,7 @@ TEST_F(Machine, RepairCostGrowsWithAge) {
     EXPECT_EQ(a.Income, -40);
     EXPECT_EQ(a.RepairBillsTotal, 140);
     EXPECT_TRUE(logged("Zap has been repaired for $140"));
-    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
+    EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleWorking);
     // Repairs count twice in the profit figure, as the panel shows it.
     a.OriginalPrice = 1000;
     EXPECT_EQ(a.totalProfit(), -40 - 1000 - 140);
@@ -169,7 +169,7 @@ TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
     EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
     EXPECT_TRUE(logged("Zap has been repaired for $60"));
     EXPECT_EQ(a.RepairBillsTotal, 60);
-    EXPECT_EQ(am().room.title(1).color, arcadeRoom::titleWorking);
+    EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleWorking);
 }
 
 TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
@@ -238,37 +238,37 @@ TEST_F(Machine, CabinetFileNamePadding) {
 TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
     auto t = title(1, "Zap", 50);
     t->CabinetImageFileNumber = 3;
-    t->myCabLeft = arcadeRoom::defaultDividerX; // on the line: still the left picture
+    t->myCabLeft = ArcadeRoom::defaultDividerX; // on the line: still the left picture
     arcade& a = addMachine(t);
     EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003L.gif"));
     // One twip over the line flips it.
     am().moveCabinet(1, 101, 50, 100, 50);
-    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::defaultDividerX + 1);
+    EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::defaultDividerX + 1);
     EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003R.gif"));
     EXPECT_EQ(a.cabinetPicturePath, am().room.cabinet(1).picture);
     // The saved place is not written by a move.
-    EXPECT_EQ(a.myCabLeft, arcadeRoom::defaultDividerX);
+    EXPECT_EQ(a.myCabLeft, ArcadeRoom::defaultDividerX);
 }
 
 TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
     arcade& a = addMachine(title(1, "Zap", 50));
-    const arcadeCabinet& cab = am().room.cabinet(1);
-    const arcadeTitle& t = am().room.title(1);
-    EXPECT_EQ(cab.left, arcadeRoom::templateLeft);
-    EXPECT_EQ(cab.top, arcadeRoom::templateTop);
+    const ArcadeCabinet& cab = am().room.cabinet(1);
+    const ArcadeTitle& t = am().room.title(1);
+    EXPECT_EQ(cab.left, ArcadeRoom::templateLeft);
+    EXPECT_EQ(cab.top, ArcadeRoom::templateTop);
     EXPECT_TRUE(cab.visible);
     EXPECT_TRUE(t.visible);
     EXPECT_EQ(t.caption, "Zap");
     EXPECT_EQ(t.top, cab.top - 360);
     // width 3 * 90 = 270; left = left + 960 / 2 - Int(135)
-    EXPECT_EQ(t.left, arcadeRoom::templateLeft + 480 - 135);
+    EXPECT_EQ(t.left, ArcadeRoom::templateLeft + 480 - 135);
     // An odd half width is floored: 5 characters, 450 wide, half 225.
     a.setName("Zappo");
     a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 480 - 225);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 225);
     am().room.title(1).width = 301; // half 150.5 floors to 150
     a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 480 - 150);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 150);
 }
 
 TEST_F(Machine, RenameIgnoresAnEmptyNameAndDoesNotRecentre) {
@@ -304,7 +304,7 @@ TEST_F(Machine, CabinetTakesItsPictureSizeFromTheGif) {
     addMachine(t);
     EXPECT_EQ(am().room.cabinet(1).width, 1200);
     EXPECT_EQ(am().room.cabinet(1).height, 1500);
-    EXPECT_EQ(am().room.title(1).left, arcadeRoom::templateLeft + 600 - 135);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 135);
 }
 
 } // namespace

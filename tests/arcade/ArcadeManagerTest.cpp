@@ -1,9 +1,9 @@
 #include "ArcadeFixture.h"
 
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 
 #include <filesystem>
 
@@ -222,7 +222,7 @@ TEST_F(Room, BuyingMovesTheTitleIntoTheRoom) {
     ASSERT_EQ(am().buyGames.size(), 1u);
     EXPECT_EQ(am().buyGameAt(1).getName(), "Alpha");
     EXPECT_TRUE(am().room.exists(1));
-    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::templateLeft);
+    EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::templateLeft);
 }
 
 TEST_F(Room, FullRoomRefusesBeforeMoney) {
@@ -253,8 +253,8 @@ TEST_F(Room, SellingClosesTheRoomUp) {
     am().moveCabinet(2, 200, 100, 0, 0);
     am().moveCabinet(3, 5000, 300, 0, 0); // over the divider: the R picture
     three.IamBroke = true;
-    const arcadeCabinet cab3 = am().room.cabinet(3);
-    const arcadeTitle title3 = am().room.title(3);
+    const ArcadeCabinet cab3 = am().room.cabinet(3);
+    const ArcadeTitle title3 = am().room.title(3);
     am().showGameDetails(2);
 
     am().sellGame(2);
@@ -272,8 +272,8 @@ TEST_F(Room, SellingClosesTheRoomUp) {
     EXPECT_EQ(am().room.title(2).caption, "Three");
     EXPECT_EQ(am().room.title(2).left, title3.left);
     EXPECT_EQ(am().room.title(2).top, title3.top);
-    EXPECT_EQ(am().room.title(2).color, arcadeRoom::titleBroken);
-    EXPECT_EQ(am().room.cabinet(1).left, arcadeRoom::templateLeft + 100);
+    EXPECT_EQ(am().room.title(2).color, ArcadeRoom::titleBroken);
+    EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::templateLeft + 100);
     // The sold object keeps all it has; its saved place is left as it was.
     EXPECT_EQ(two.MyCabTop, 0);
     EXPECT_EQ(twoPtr.use_count(), 1);

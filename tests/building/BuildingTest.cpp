@@ -1,7 +1,7 @@
 #include "building/BuildingFixture.h"
-#include "building/buildingTexts.h"
+#include "building/BuildingTexts.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 

@@ -1,9 +1,9 @@
 #include "StandFixture.h"
 
-#include "concessions/concessionTexts.h"
+#include "concessions/ConcessionTexts.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 
 #include <algorithm>
 #include <sstream>

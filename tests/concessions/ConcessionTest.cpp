@@ -1,8 +1,8 @@
 #include "StandFixture.h"
 
-#include "concessions/concessionTexts.h"
+#include "concessions/ConcessionTexts.h"
 #include "core/GameError.h"
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 
 #include <sstream>
 

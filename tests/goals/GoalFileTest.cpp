@@ -1,7 +1,7 @@
 // goals.cfg: how the file is read, and what the shipped file offers.
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "goals/goalTexts.h"
+#include "core/LineFile.h"
+#include "goals/GoalTexts.h"
 #include "persistence/SavedFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"

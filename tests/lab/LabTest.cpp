@@ -32,7 +32,7 @@ class Spendthrift : public Strategy {
     explicit Spendthrift(double keep) : keep_(keep) {}
     void beforeDay(Game& game) override {
         if (!borrowed_)
-            view::takeLoan(game, 30000, 6);
+            playerView::takeLoan(game, 30000, 6);
         borrowed_ = true;
         const double funds = game.finances.getFunds();
         if (funds > keep_)

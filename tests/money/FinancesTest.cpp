@@ -1,5 +1,5 @@
 #include "core/GameError.h"
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 

@@ -1,5 +1,5 @@
 #include "core/GameError.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "money/GraphTexts.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"

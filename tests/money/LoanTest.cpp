@@ -1,6 +1,6 @@
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "money/LoanFixture.h"
-#include "money/moneyTexts.h"
+#include "money/MoneyTexts.h"
 
 #include <gtest/gtest.h>
 

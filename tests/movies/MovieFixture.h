@@ -1,5 +1,5 @@
 #pragma once
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 

@@ -3,7 +3,7 @@
 // under de_DE.UTF-8 gives the same bytes as under "C".
 #include "Simulator.h"
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

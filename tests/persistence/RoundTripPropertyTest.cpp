@@ -2,7 +2,7 @@
 // loaded into a fresh session and into the same one, and saved again: the files must agree
 // byte for byte, section by section.
 #include "Simulator.h"
-#include "arcade/arcadeRoom.h"
+#include "arcade/ArcadeRoom.h"
 #include "core/GameError.h"
 #include "lab/RandomStrategy.h"
 #include "persistence/SavedFile.h"
@@ -74,9 +74,9 @@ std::string cabinetsAsLoaded(const std::string& text) {
     static const std::regex top("\r\nMyCabTop=(-[^\r]*|0)\r\n");
     static const std::regex left("\r\nmyCabLeft=(-[^\r]*|0)\r\n");
     std::string out = std::regex_replace(
-        text, top, "\r\nMyCabTop=" + numberText(arcadeRoom::templateTop) + "\r\n");
+        text, top, "\r\nMyCabTop=" + numberText(ArcadeRoom::templateTop) + "\r\n");
     return std::regex_replace(out, left,
-                              "\r\nmyCabLeft=" + numberText(arcadeRoom::templateLeft) + "\r\n");
+                              "\r\nmyCabLeft=" + numberText(ArcadeRoom::templateLeft) + "\r\n");
 }
 
 } // namespace

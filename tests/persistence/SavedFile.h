@@ -1,6 +1,6 @@
 #pragma once
 // Saved games taken apart: their lines, their sections, and the part a load brings back.
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 

@@ -1,6 +1,6 @@
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "reputation/reputationTexts.h"
+#include "core/LineFile.h"
+#include "reputation/ReputationTexts.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 

@@ -1,4 +1,4 @@
-#include "reputation/ratingTerms.h"
+#include "reputation/RatingTerms.h"
 #include "core/GameError.h"
 #include "reputation/ratingManager.h"
 

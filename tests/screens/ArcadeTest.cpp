@@ -1,7 +1,7 @@
 // The arcade screen, offscreen: dragging cabinets about the room, the details panel and its
 // slider, buttons and name box, the market, and a room saved and loaded where it was left.
 #include "PlayingWindow.h"
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 #include "frame/ButtonLabel.h"
 #include "frmArcade.h"
 #include "ports/QtScreen.h"
@@ -107,8 +107,8 @@ class ArcadeTest : public QObject {
     // is missing keeps its title and is dragged like any other.
     void dragging() {
         buy(3);
-        const arcadeRoom& room = arcades().room;
-        const arcadeCabinet start = room.cabinet(1);
+        const ArcadeRoom& room = arcades().room;
+        const ArcadeCabinet start = room.cabinet(1);
 
         drag(cabinet(1), Qt::RightButton, {100, 20});
         QCOMPARE(room.cabinet(1).left, start.left + 1500);
@@ -333,7 +333,7 @@ class ArcadeTest : public QObject {
         QCOMPARE(grid->rowCount(), int(arcades().buyGames.size()));
 
         drag(cabinet(1), Qt::LeftButton, {331, 77});
-        const arcadeCabinet dropped = arcades().room.cabinet(1);
+        const ArcadeCabinet dropped = arcades().room.cabinet(1);
         const QRect shown = cabinet(1)->geometry();
         // A theater saved with no staff keeps nothing after its staff: someone is hired first.
         game().employees.hireEmployee(1);

@@ -1,8 +1,8 @@
 // The concession stand's screen, offscreen: what the price and order boxes make of what a
 // player types, the quality list and the tabs, and the rows kept current as days pass.
 #include "PlayingWindow.h"
-#include "concessions/concessionTexts.h"
-#include "core/Toolbox.h"
+#include "concessions/ConcessionTexts.h"
+#include "core/Text.h"
 #include "frame/ButtonLabel.h"
 #include "frmConcessions.h"
 

@@ -2,7 +2,7 @@
 // going wrong when dragging, gluing, pausing, clicking and quitting.
 #include "PlayingWindow.h"
 #include "core/GameError.h"
-#include "session/mainTexts.h"
+#include "session/MainTexts.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"
 #include "frame/Twips.h"

@@ -2,9 +2,9 @@
 #include "PlayingWindow.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Twips.h"
-#include "movies/movieTexts.h"
+#include "movies/MovieTexts.h"
 #include "ports/QtScreen.h"
-#include "reputation/reputationTexts.h"
+#include "reputation/ReputationTexts.h"
 
 #include <QCheckBox>
 #include <QFocusEvent>

@@ -1,7 +1,7 @@
 #include "core/GameError.h"
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 #include "session/Game.h"
-#include "session/mainTexts.h"
+#include "session/MainTexts.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

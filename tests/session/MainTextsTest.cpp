@@ -1,7 +1,7 @@
 #include "session/Game.h"
 #include "core/GameError.h"
-#include "session/mainTexts.h"
-#include "core/Toolbox.h"
+#include "session/MainTexts.h"
+#include "core/Text.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

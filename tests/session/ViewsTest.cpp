@@ -1,16 +1,16 @@
 // Every view a screen may be told to repaint has a view function that builds its content.
 // The switch below has no default: a new View value without a view function here does not
 // compile.
-#include "arcade/arcadeTexts.h"
-#include "building/buildingTexts.h"
-#include "concessions/concessionTexts.h"
-#include "goals/goalTexts.h"
-#include "money/moneyTexts.h"
-#include "movies/movieTexts.h"
-#include "reputation/reputationTexts.h"
+#include "arcade/ArcadeTexts.h"
+#include "building/BuildingTexts.h"
+#include "concessions/ConcessionTexts.h"
+#include "goals/GoalTexts.h"
+#include "money/MoneyTexts.h"
+#include "movies/MovieTexts.h"
+#include "reputation/ReputationTexts.h"
 #include "session/Game.h"
-#include "session/mainTexts.h"
-#include "staff/staffTexts.h"
+#include "session/MainTexts.h"
+#include "staff/StaffTexts.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

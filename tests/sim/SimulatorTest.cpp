@@ -2,7 +2,7 @@
 // and what the game's state shows after them.
 #include "Simulator.h"
 #include "core/GameError.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "support/SimScenario.h"
 #include "support/TestSupport.h"
 

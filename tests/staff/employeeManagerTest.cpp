@@ -1,7 +1,7 @@
 #include "StaffFixture.h"
 
 #include "core/GameError.h"
-#include "staff/staffTexts.h"
+#include "staff/StaffTexts.h"
 
 using namespace zorvane;
 using namespace zorvane::test;

@@ -1,11 +1,11 @@
 #include "core/GameError.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 #include <gtest/gtest.h>
 
 using namespace zorvane;
 
-TEST(Toolbox, TextFilters) {
+TEST(Text, TextFilters) {
     EXPECT_EQ(stripQuotes("\"C:\\my games\\a.zvn\""), "C:\\my games\\a.zvn");
     EXPECT_EQ(stripQuotes(""), "");
     EXPECT_EQ(digitsOnly("-12"), "12");
@@ -15,7 +15,7 @@ TEST(Toolbox, TextFilters) {
     EXPECT_EQ(trimRight("    "), "");
 }
 
-TEST(Toolbox, DigitsValueReadsWhatAPlayerTyped) {
+TEST(Text, DigitsValueReadsWhatAPlayerTyped) {
     EXPECT_EQ(digitsValue("$1,234.50"), 1234.5);
     EXPECT_EQ(digitsValue("12abc3"), 123);
     EXPECT_EQ(digitsValue("1.2.3"), 1.2);
@@ -23,7 +23,7 @@ TEST(Toolbox, DigitsValueReadsWhatAPlayerTyped) {
     EXPECT_EQ(digitsValue("-40"), 40);
 }
 
-TEST(Toolbox, FormatMoneyShowsCentsOnlyWhenNotWhole) {
+TEST(Text, FormatMoneyShowsCentsOnlyWhenNotWhole) {
     EXPECT_EQ(formatMoney(1500), "$1,500");
     EXPECT_EQ(formatMoney(1500.5), "$1,500.50");
     EXPECT_EQ(formatMoney(0), "$0");
@@ -35,7 +35,7 @@ TEST(Toolbox, FormatMoneyShowsCentsOnlyWhenNotWhole) {
     EXPECT_EQ(formatMoney(0.1 + 0.2), "$0.30"); // 15 digits: 0.3, not whole
 }
 
-TEST(Toolbox, FormatMoneyShortForTheSummary) {
+TEST(Text, FormatMoneyShortForTheSummary) {
     EXPECT_EQ(formatMoneyShort(999.99), "$999.99");
     EXPECT_EQ(formatMoneyShort(1000), "$1k");
     EXPECT_EQ(formatMoneyShort(2000), "$2k");
@@ -45,7 +45,7 @@ TEST(Toolbox, FormatMoneyShortForTheSummary) {
     EXPECT_EQ(formatMoneyShort(-5000), "-$5,000");
 }
 
-TEST(Toolbox, GetPercentIsNotThePositionInTheRange) {
+TEST(Text, GetPercentIsNotThePositionInTheRange) {
     EXPECT_EQ(getPercent(10, 20, 15), 150);
     EXPECT_EQ(getPercent(0, 100, 30), 30);
     EXPECT_THROW(getPercent(5, 5, 1), GameError);

@@ -1,7 +1,7 @@
-#include "arcade/arcadeTexts.h"
+#include "arcade/ArcadeTexts.h"
 
 #include "arcade/arcadeManager.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 #include <cmath>
 
@@ -20,7 +20,7 @@ std::vector<std::array<std::string, 3>> arcadeBuyGrid(const arcadeManager& arcad
 
 ArcadeDetails arcadeDetails(const arcadeManager& arcades) {
     const arcade& m = arcades.myGameAt(arcades.detailsNum);
-    const arcadeRoom& room = arcades.room;
+    const ArcadeRoom& room = arcades.room;
     ArcadeDetails d;
     d.num = m.getNum();
     d.name = m.getName();

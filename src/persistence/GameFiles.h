@@ -11,9 +11,9 @@ class LineWriter;
 // The saved-game container: one plain .zvn text file of tagged sections, CR LF lines. Each
 // manager writes and reads its own section; this class fixes their order on writing, finds
 // them in any order on reading, and leaves silently when something fails.
-class SavedGame {
+class GameFiles {
   public:
-    explicit SavedGame(Game& game) : game_(game) {}
+    explicit GameFiles(Game& game) : game_(game) {}
 
     // The file dialog's filter for open and save.
     static const char* const fileFilter;

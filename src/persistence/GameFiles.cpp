@@ -1,16 +1,16 @@
-#include "persistence/SavedGame.h"
+#include "persistence/GameFiles.h"
 
 #include "core/GameError.h"
-#include "core/LineReader.h"
-#include "core/Toolbox.h"
+#include "core/LineFile.h"
+#include "core/Text.h"
 #include "session/Game.h"
 
 #include <fstream>
 
 namespace zorvane {
 
-const char* const SavedGame::fileFilter = "Theater saved games (*.ZVN)|*.zvn|All File (*.*)|*.*";
-const char* const SavedGame::versionMessage =
+const char* const GameFiles::fileFilter = "Theater saved games (*.ZVN)|*.zvn|All File (*.*)|*.*";
+const char* const GameFiles::versionMessage =
     "This saved game is from a different program version.  There may be unexpected results.";
 
 namespace {
@@ -23,7 +23,7 @@ void loadMathSection(Game&, LineReader&) {}
 
 } // namespace
 
-const std::vector<SavedGame::Section>& SavedGame::sections() {
+const std::vector<GameFiles::Section>& GameFiles::sections() {
     static const std::vector<Section> table = {
         {"<math>", saveMath, loadMathSection},
         {"<calendar>", [](Game& g, LineWriter& o) { g.calendar.saveCalendar(o); },
@@ -57,7 +57,7 @@ const std::vector<SavedGame::Section>& SavedGame::sections() {
 // Writes the game to the current path. The result is true from the moment a path is known,
 // so a save that fails on the way still returns true, silently, with no log line and the
 // saved flag left as it was: a quit through Yes then ends with the game unsaved.
-bool SavedGame::saveGame() {
+bool GameFiles::saveGame() {
     if (game_.savedPath.empty())
         game_.savedPath = game_.dialogs().chooseFile(FileMode::Save, fileFilter, "Save Theater");
     if (game_.savedPath.empty())
@@ -72,14 +72,14 @@ bool SavedGame::saveGame() {
     return true;
 }
 
-bool SavedGame::saveAs() {
+bool GameFiles::saveAs() {
     game_.savedPath.clear();
     return saveGame();
 }
 
 // There is no temporary file: the old file is replaced from the first line, and a failure
 // in the middle leaves a half-written game.
-void SavedGame::writeAll(const std::string& path) {
+void GameFiles::writeAll(const std::string& path) {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     if (!file)
         throw GameError(GameError::Kind::Io, "cannot open " + path + " for writing");
@@ -97,7 +97,7 @@ void SavedGame::writeAll(const std::string& path) {
 // Reads a saved game into the running one. The load runs no day, changes no speed and
 // leaves the saved flag alone, so a quit straight after a load still asks. Whatever fails
 // ends the load silently, keeping what was read so far and the new path.
-void SavedGame::loadGame(const std::string& path) {
+void GameFiles::loadGame(const std::string& path) {
     if (!path.empty()) {
         game_.savedPath = path;
     } else {
@@ -121,7 +121,7 @@ void SavedGame::loadGame(const std::string& path) {
 // Sections may come in any order, be missing, or come twice (read twice). A line is an open
 // tag only when, lower-cased, it equals the tag exactly: a trailing blank hides the section,
 // whose lines are then skipped one by one.
-void SavedGame::readAll(const std::string& path) {
+void GameFiles::readAll(const std::string& path) {
     std::ifstream file = openTextFile(path);
     LineReader in(file, path);
     bool versionOk = false;
@@ -144,7 +144,7 @@ void SavedGame::readAll(const std::string& path) {
         game_.dialogs().ask(versionMessage, Buttons::Ok);
 }
 
-bool SavedGame::readVersionSection(LineReader& in) {
+bool GameFiles::readVersionSection(LineReader& in) {
     std::string kept, line, key, value;
     while (in.readLine(line)) {
         if (line.rfind("</", 0) == 0)

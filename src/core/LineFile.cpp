@@ -1,4 +1,4 @@
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 
 #include "core/GameError.h"
 

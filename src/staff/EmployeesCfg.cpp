@@ -1,4 +1,4 @@
-#include "staff/employeesCfg.h"
+#include "staff/EmployeesCfg.h"
 
 #include "core/Numbers.h"
 

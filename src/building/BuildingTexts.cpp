@@ -1,7 +1,7 @@
-#include "building/buildingTexts.h"
+#include "building/BuildingTexts.h"
 
 #include "building/buildingManager.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane {
 

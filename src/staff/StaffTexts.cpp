@@ -1,6 +1,6 @@
-#include "staff/staffTexts.h"
+#include "staff/StaffTexts.h"
 
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "staff/employeeManager.h"
 
 namespace zorvane {

@@ -1,6 +1,6 @@
 #include "StaffFixture.h"
 
-#include "core/LineReader.h"
+#include "core/LineFile.h"
 
 using namespace zorvane;
 using namespace zorvane::test;

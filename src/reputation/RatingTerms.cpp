@@ -1,7 +1,7 @@
-#include "reputation/ratingTerms.h"
+#include "reputation/RatingTerms.h"
 
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane::ratingTerms {
 

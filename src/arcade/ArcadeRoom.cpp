@@ -1,4 +1,4 @@
-#include "arcade/arcadeRoom.h"
+#include "arcade/ArcadeRoom.h"
 
 #include "core/GameError.h"
 
@@ -16,11 +16,11 @@ namespace {
 
 } // namespace
 
-void arcadeRoom::reset(const std::string& templatePicture) {
+void ArcadeRoom::reset(const std::string& templatePicture) {
     cabinets_.clear();
     titles_.clear();
     dividerX = defaultDividerX;
-    templateCabinet_ = arcadeCabinet{templatePicture, templateLeft,   templateTop,
+    templateCabinet_ = ArcadeCabinet{templatePicture, templateLeft,   templateTop,
                                      templateWidth,   templateHeight, false};
     int w = 0, h = 0;
     if (gifSize(templatePicture, w, h)) {
@@ -28,14 +28,14 @@ void arcadeRoom::reset(const std::string& templatePicture) {
         templateCabinet_.height = static_cast<float>(h) * twipsPerPixel;
     }
     templateTitle_ =
-        arcadeTitle{"", templateLeft, templateTop - 360, 0, titleHeight, titleWorking, false};
+        ArcadeTitle{"", templateLeft, templateTop - 360, 0, titleHeight, titleWorking, false};
 }
 
-bool arcadeRoom::exists(int index) const {
+bool ArcadeRoom::exists(int index) const {
     return index == 0 || cabinets_.count(index) > 0;
 }
 
-arcadeCabinet& arcadeRoom::cabinet(int index) {
+ArcadeCabinet& ArcadeRoom::cabinet(int index) {
     if (index == 0)
         return templateCabinet_;
     auto it = cabinets_.find(index);
@@ -44,11 +44,11 @@ arcadeCabinet& arcadeRoom::cabinet(int index) {
     return it->second;
 }
 
-const arcadeCabinet& arcadeRoom::cabinet(int index) const {
-    return const_cast<arcadeRoom*>(this)->cabinet(index);
+const ArcadeCabinet& ArcadeRoom::cabinet(int index) const {
+    return const_cast<ArcadeRoom*>(this)->cabinet(index);
 }
 
-arcadeTitle& arcadeRoom::title(int index) {
+ArcadeTitle& ArcadeRoom::title(int index) {
     if (index == 0)
         return templateTitle_;
     auto it = titles_.find(index);
@@ -57,18 +57,18 @@ arcadeTitle& arcadeRoom::title(int index) {
     return it->second;
 }
 
-const arcadeTitle& arcadeRoom::title(int index) const {
-    return const_cast<arcadeRoom*>(this)->title(index);
+const ArcadeTitle& ArcadeRoom::title(int index) const {
+    return const_cast<ArcadeRoom*>(this)->title(index);
 }
 
-std::vector<int> arcadeRoom::indexes() const {
+std::vector<int> ArcadeRoom::indexes() const {
     std::vector<int> result;
     for (const auto& [index, cab] : cabinets_)
         result.push_back(index);
     return result;
 }
 
-void arcadeRoom::create(int index) {
+void ArcadeRoom::create(int index) {
     if (index < 1 || exists(index))
         throw GameError(GameError::Kind::Bounds,
                         "arcade cabinet " + std::to_string(index) + " cannot be created: " +
@@ -77,15 +77,15 @@ void arcadeRoom::create(int index) {
     titles_[index] = templateTitle_;
 }
 
-void arcadeRoom::destroy(int index) {
+void ArcadeRoom::destroy(int index) {
     if (index == 0 || !exists(index))
         noSuchObject("cabinets", index);
     cabinets_.erase(index);
     titles_.erase(index);
 }
 
-void arcadeRoom::loadPicture(int index, const std::string& path) {
-    arcadeCabinet& cab = cabinet(index);
+void ArcadeRoom::loadPicture(int index, const std::string& path) {
+    ArcadeCabinet& cab = cabinet(index);
     cab.picture = path;
     int w = 0, h = 0;
     if (gifSize(path, w, h)) {
@@ -94,15 +94,15 @@ void arcadeRoom::loadPicture(int index, const std::string& path) {
     }
 }
 
-void arcadeRoom::setCaption(int index, const std::string& caption) {
-    arcadeTitle& t = title(index);
+void ArcadeRoom::setCaption(int index, const std::string& caption) {
+    ArcadeTitle& t = title(index);
     t.caption = caption;
     t.width = captionWidth(caption);
 }
 
-void arcadeRoom::copyObjects(int from, int to) {
-    const arcadeCabinet source = cabinet(from);
-    arcadeCabinet& target = cabinet(to);
+void ArcadeRoom::copyObjects(int from, int to) {
+    const ArcadeCabinet source = cabinet(from);
+    ArcadeCabinet& target = cabinet(to);
     target.picture = source.picture;
     target.width = source.width;
     target.height = source.height;
@@ -115,7 +115,7 @@ void arcadeRoom::copyObjects(int from, int to) {
     title(to).top = top;
 }
 
-float arcadeRoom::captionWidth(const std::string& caption) {
+float ArcadeRoom::captionWidth(const std::string& caption) {
     return static_cast<float>(caption.size()) * titleCharWidth;
 }
 

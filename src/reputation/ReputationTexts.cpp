@@ -1,7 +1,7 @@
-#include "reputation/reputationTexts.h"
+#include "reputation/ReputationTexts.h"
 
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "reputation/promoManager.h"
 #include "reputation/ratingManager.h"
 

@@ -1,7 +1,7 @@
-#include "movies/movieTexts.h"
+#include "movies/MovieTexts.h"
 
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "movies/MovieManager.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "StaffFixture.h"
 
 #include "core/GameError.h"
-#include "staff/employeesCfg.h"
+#include "staff/EmployeesCfg.h"
 
 #include <fstream>
 #include <set>

@@ -1,11 +1,11 @@
-#include "session/mainTexts.h"
+#include "session/MainTexts.h"
 
 #include <algorithm>
 
 #include "session/Game.h"
 #include "core/GameError.h"
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane {
 

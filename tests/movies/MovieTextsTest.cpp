@@ -1,7 +1,7 @@
 #include "MovieFixture.h"
 
 #include "core/GameError.h"
-#include "movies/movieTexts.h"
+#include "movies/MovieTexts.h"
 
 using namespace zorvane;
 using namespace zorvane::test;

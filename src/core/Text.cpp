@@ -1,4 +1,4 @@
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 #include "core/GameError.h"
 #include "core/Numbers.h"

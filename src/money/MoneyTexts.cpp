@@ -1,6 +1,6 @@
-#include "money/moneyTexts.h"
+#include "money/MoneyTexts.h"
 
-#include "core/Toolbox.h"
+#include "core/Text.h"
 #include "money/Finances.h"
 #include "money/loanManager.h"
 

@@ -8,7 +8,7 @@ namespace zorvane {
 
 // One cabinet picture standing in the arcade room (imgGame). Positions and sizes are twips
 // inside the room picture.
-struct arcadeCabinet {
+struct ArcadeCabinet {
     std::string picture; // full path of the picture shown, empty for none
     float left = 0;
     float top = 0;
@@ -18,7 +18,7 @@ struct arcadeCabinet {
 };
 
 // The title label above a cabinet (lblGameName). The label sizes itself to its caption.
-struct arcadeTitle {
+struct ArcadeTitle {
     std::string caption;
     float left = 0;
     float top = 0;
@@ -32,7 +32,7 @@ struct arcadeTitle {
 // template at index 0 that every new cabinet copies, and the dividing line whose X decides
 // whether a cabinet shows its left- or right-facing picture. The screens only mirror this,
 // so a game without windows keeps and saves cabinet positions exactly as a windowed one.
-class arcadeRoom {
+class ArcadeRoom {
   public:
     // The room picture (picRoom), the divider (lnLeftRight) and the template (imgGame(0)).
     static constexpr float roomWidth = 9600;
@@ -51,17 +51,17 @@ class arcadeRoom {
 
     float dividerX = defaultDividerX;
 
-    arcadeRoom() { reset(""); }
+    ArcadeRoom() { reset(""); }
 
     // Empties the room and sets the template up with its picture (sized from the file).
     void reset(const std::string& templatePicture);
 
     bool exists(int index) const;
     // Index 0 is the template; other indexes must have been created.
-    arcadeCabinet& cabinet(int index);
-    const arcadeCabinet& cabinet(int index) const;
-    arcadeTitle& title(int index);
-    const arcadeTitle& title(int index) const;
+    ArcadeCabinet& cabinet(int index);
+    const ArcadeCabinet& cabinet(int index) const;
+    ArcadeTitle& title(int index);
+    const ArcadeTitle& title(int index) const;
     // The indexes of the cabinets standing in the room, rising.
     std::vector<int> indexes() const;
 
@@ -83,10 +83,10 @@ class arcadeRoom {
     static float captionWidth(const std::string& caption);
 
   private:
-    arcadeCabinet templateCabinet_;
-    arcadeTitle templateTitle_;
-    std::map<int, arcadeCabinet> cabinets_;
-    std::map<int, arcadeTitle> titles_;
+    ArcadeCabinet templateCabinet_;
+    ArcadeTitle templateTitle_;
+    std::map<int, ArcadeCabinet> cabinets_;
+    std::map<int, ArcadeTitle> titles_;
 };
 
 // The pixel size of a GIF file from its header; false when the file is no readable GIF.

@@ -1,4 +1,4 @@
-#include "goals/goalTexts.h"
+#include "goals/GoalTexts.h"
 
 #include "goals/goalManager.h"
 

@@ -1,8 +1,8 @@
-#include "concessions/concessionTexts.h"
+#include "concessions/ConcessionTexts.h"
 
 #include "concessions/ConcessionManager.h"
 #include "core/Numbers.h"
-#include "core/Toolbox.h"
+#include "core/Text.h"
 
 namespace zorvane {
 
