@@ -4,6 +4,7 @@
 # compiler built it), and under AddressSanitizer and UndefinedBehaviorSanitizer (GCC). The
 # GCC builds include the game window; its Qt Test suites (label "screens") run on the
 # offscreen platform, no display needed.
+# Every C++ file must be laid out as .clang-format says (tools/check-format.sh).
 # Warnings are errors here. The end is each run's summary; the very last line is CTest's own
 # summary of the first run that failed, or of the last run when all passed.
 set -euo pipefail
@@ -30,6 +31,14 @@ run_tests() {
         failed=1
     fi
 }
+
+# The layout first: a file out of format fails the run, after the tests have run.
+if tools/check-format.sh; then
+    summaries+=("format: every file formatted")
+else
+    summaries+=("format: files out of format (run clang-format-14 -i on them)")
+    failed=1
+fi
 
 cmake -S . -B build/release -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVANE_WERROR=ON >/dev/null
 cmake --build build/release -j"$jobs"

@@ -3,14 +3,14 @@
 //
 //   zorvane [SAVED.zvn | MATH.mth]     play (the one argument: a game to load or a math file)
 //   zorvane --screenshots DIR          write every screen as a PNG into DIR, no display needed
+#include "Commands.h"
 #include "GameApplication.h"
 #include "GameWindows.h"
-#include "Commands.h"
-#include "lab/Strategy.h"
 #include "core/GameError.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frmMain.h"
+#include "lab/Strategy.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -66,8 +66,8 @@ bool choosePlatform(const Options& o) {
     if (o.platformChosen || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return true;
     const bool x11 = qEnvironmentVariableIsSet("DISPLAY");
-    const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-                         qgetenv("XDG_SESSION_TYPE") == "wayland";
+    const bool wayland =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
     // The screens of a mode are glued below the main screen; on Wayland a window cannot
     // place itself, so the game runs through XWayland there.
     if (wayland && x11)

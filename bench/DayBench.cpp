@@ -33,10 +33,14 @@ void runDays(benchmark::State& state, bool singleTicket) {
 
 } // namespace
 
-static void BM_fullTheaterDay(benchmark::State& state) { runDays(state, false); }
+static void BM_fullTheaterDay(benchmark::State& state) {
+    runDays(state, false);
+}
 BENCHMARK(BM_fullTheaterDay)->Unit(benchmark::kMicrosecond);
 
-static void BM_singleTicketDay(benchmark::State& state) { runDays(state, true); }
+static void BM_singleTicketDay(benchmark::State& state) {
+    runDays(state, true);
+}
 BENCHMARK(BM_singleTicketDay)->Unit(benchmark::kMicrosecond);
 
 // A game year (336 days) of the full theater.

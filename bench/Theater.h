@@ -12,7 +12,7 @@ namespace zorvane::bench {
 // the room full of machines, every concession item stocked, promotions at the cap and a
 // running loan. Funds are set high so that no purchase is refused.
 class Theater {
-public:
+  public:
     explicit Theater(std::uint64_t seed = 1);
     Game& game() { return simulator_->game(); }
     void run(const std::string& line) { simulator_->runLine(line, 0); }
@@ -20,7 +20,7 @@ public:
     // largest crowd to the arcade and the stand (visitors fall as the audience grows).
     void singleTicketDays();
 
-private:
+  private:
     std::ostream nowhere_{nullptr};
     std::unique_ptr<sim::Simulator> simulator_;
 };

@@ -86,14 +86,18 @@ void addCoreCommands(CommandTable& t) {
                        std::vector<Answer> queued;
                        for (const std::string& w : a.words)
                            queued.push_back(answerFromWord(w));
-                       c.dialogs.answers.insert(c.dialogs.answers.end(), queued.begin(), queued.end());
+                       c.dialogs.answers.insert(c.dialogs.answers.end(), queued.begin(),
+                                                queued.end());
                    }};
-    t["input"] = {0, -1, [](CommandContext& c, const Args& a) { c.dialogs.inputs.push_back(a.text); }};
-    t["file"] = {1, -1, [](CommandContext& c, const Args& a) { c.dialogs.files.push_back(a.text); }};
+    t["input"] = {0, -1,
+                  [](CommandContext& c, const Args& a) { c.dialogs.inputs.push_back(a.text); }};
+    t["file"] = {1, -1,
+                 [](CommandContext& c, const Args& a) { c.dialogs.files.push_back(a.text); }};
     t["reloadmath"] = {0, 0, [](CommandContext& c, const Args&) { c.game.reloadMath(); }};
     t["quit"] = {0, 0, [](CommandContext& c, const Args&) { c.game.quitGame(); }};
     t["newgame"] = {0, 0, [](CommandContext& c, const Args&) { c.game.newGame(); }};
-    t["state"] = {0, 0, [](CommandContext& c, const Args&) { c.out << gameState(c.game).dump() << '\n'; }};
+    t["state"] = {
+        0, 0, [](CommandContext& c, const Args&) { c.out << gameState(c.game).dump() << '\n'; }};
     t["log"] = {0, 0, [](CommandContext& c, const Args&) {
                     for (const std::string& line : c.unreadLog)
                         c.out << line << '\n';

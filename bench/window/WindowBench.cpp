@@ -5,13 +5,13 @@
 // start-up to the title screen painted, silent and with the game's sound port; making the
 // sound players after it; one line added to a log window that holds 20,000.
 //   build/release/bin/zorvane-window-bench
+#include "AroundScreens.h"
 #include "Commands.h"
 #include "GameApplication.h"
 #include "GameWindows.h"
-#include "AroundScreens.h"
+#include "frame/ChildFrame.h"
 #include "frmLoader.h"
 #include "frmLog.h"
-#include "frame/ChildFrame.h"
 #include "frmMain.h"
 #include "ports/QtSound.h"
 #include "session/Game.h"
@@ -52,7 +52,7 @@ struct Window {
         w->startup(); // the title screen is up
         if (withDemo) {
             w->game().startPlay(-1);
-            w->showMain(); // a staffed theater in business: the demo script's month
+            w->showMain();               // a staffed theater in business: the demo script's month
             w->around().loader().hide(); // as "Play !" leaves the title screen
             std::ifstream script(ZORVANE_SOURCE_DATA "/demo.txt");
             std::ostringstream out;
@@ -162,7 +162,8 @@ void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
             return;
     state.counters["stand_paints"] = standPaints;
     state.counters["machines"] = arcades.getMachineCount();
-    state.counters["visible"] = window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
+    state.counters["visible"] =
+        window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
     state.counters["pictures"] = pictures;
     state.counters["per_day"] = benchmark::Counter(
         336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
@@ -279,7 +280,8 @@ void BM_LogWindowAppend(benchmark::State& state) {
     window.showLog();
     QCoreApplication::processEvents(); // shown and activated: it holds its copy of the log
     for (int i = 0; i < 20000; ++i)
-        window.log->appendLine(QStringLiteral("Line %1 of a long game: nobody came to the matinee today.").arg(i));
+        window.log->appendLine(
+            QStringLiteral("Line %1 of a long game: nobody came to the matinee today.").arg(i));
     QCoreApplication::processEvents();
     int n = 0;
     for (auto _ : state) {

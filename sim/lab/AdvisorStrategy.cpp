@@ -15,8 +15,8 @@ namespace {
 // movies each on a showtime of its own with the best ones in the evening, ticket prices the
 // shows can bear with cheaper matinees, twice the snack stock, a few arcade machines priced
 // near their popularity and renewed as they fade, promotions up to the top when the money
-// allows, the building kept open and renovated when worn, and the bank only to survive. It also keeps an eye on the goal it plays for, as a player who
-// read the goal's description would.
+// allows, the building kept open and renovated when worn, and the bank only to survive. It also
+// keeps an eye on the goal it plays for, as a player who read the goal's description would.
 class AdvisorStrategy : public Strategy {
   public:
     void begin(Game& game) override;
@@ -180,14 +180,13 @@ int AdvisorStrategy::bestCandidate(const Game& game, int pos) const {
     int bestScore = -1;
     for (int row = 1; row <= staff.candidateCount(); ++row) {
         const employee& c = staff.getCandidate(row);
-        if (c.exp > highestExp || c.getMyExp() < lowestExp || c.rel < minRel ||
-            !hireable(game, c))
+        if (c.exp > highestExp || c.getMyExp() < lowestExp || c.rel < minRel || !hireable(game, c))
             continue;
         if (c.trainingCostShown() > game.finances.getFunds() - 1)
             continue;
         const int above = std::max(0, static_cast<int>(c.exp) - pos);
-        const int score = c.rel * 1000 - above * 400 + std::min(c.getMyExp(), pos) * 50 +
-                          (10 - c.amb);
+        const int score =
+            c.rel * 1000 - above * 400 + std::min(c.getMyExp(), pos) * 50 + (10 - c.amb);
         if (score > bestScore) {
             bestScore = score;
             best = row;
@@ -202,7 +201,8 @@ int AdvisorStrategy::bestCandidate(const Game& game, int pos) const {
 // moves on, so the advisor keeps two, and takes a less ideal one when none came for a week.
 void AdvisorStrategy::keepOnCall(Game& game) {
     employeeManager& staff = game.employees;
-    if (!playerView::vacantPositions(game).empty() || playerView::idleStaff(game).size() >= onCallWanted) {
+    if (!playerView::vacantPositions(game).empty() ||
+        playerView::idleStaff(game).size() >= onCallWanted) {
         onCallWait_ = 0;
         return;
     }
@@ -431,7 +431,8 @@ void AdvisorStrategy::renovate(Game& game) {
 void AdvisorStrategy::runPromotions(Game& game) {
     promoManager& promos = game.promos;
     const int shows = static_cast<int>(playerView::showtimesByAppeal(game).size());
-    const bool full = playerView::vacantPositions(game).empty() && game.movies.myMoviesCount() >= shows;
+    const bool full =
+        playerView::vacantPositions(game).empty() && game.movies.myMoviesCount() >= shows;
     if (!full || spendable(game) < 0) {
         if (promos.getPromoCost() > 0)
             promos.dropAllPromos();
@@ -532,7 +533,8 @@ void AdvisorStrategy::repayAndBuy(Game& game) {
         if (spendable(game) - price > (aim == "debt" ? 0 : 30000))
             bank.payOffLoan();
     } else if (bank.getBalance() <= 0 && aim == "creditscore" && spendable(game) > 0) {
-        playerView::takeLoan(game, bank.getCreditScore() * game.math.loanmlv, game.math.loanpaymentsmax);
+        playerView::takeLoan(game, bank.getCreditScore() * game.math.loanmlv,
+                             game.math.loanpaymentsmax);
     }
     if (game.building.getRent() >= 1 && aim != "funds") {
         const double price = game.building.getPurchasePrice();

@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <atomic>
 #include <cmath>
-#include <locale>
 #include <iomanip>
+#include <locale>
 #include <ostream>
 #include <sstream>
 #include <thread>
@@ -46,10 +46,10 @@ struct Ledger {
 
 Ledger readLedger(const Game& game) {
     const Finances& f = game.finances;
-    return {f.totalincome,     f.totalspent,  game.building.totalRentPaid,
-            f.incdepmovie,     f.incdeparcade, f.incdepconcessions,
-            f.deplabor,        f.depmovie,    f.deppromo,
-            f.deparcade,       f.depconcessions, f.deploan};
+    return {f.totalincome, f.totalspent,     game.building.totalRentPaid,
+            f.incdepmovie, f.incdeparcade,   f.incdepconcessions,
+            f.deplabor,    f.depmovie,       f.deppromo,
+            f.deparcade,   f.depconcessions, f.deploan};
 }
 
 double meanOfferPop(const Game& game) {
@@ -86,9 +86,9 @@ int expectedDemandTerm(const Game& game) {
             continue;
         DemandInputs in;
         in.popularity = st.getMoviePopularity();
-        in.price = st.isMatinee() ? mm.getTicketPrice(1)
-                                  : (1 - senior) * mm.getTicketPrice(0) +
-                                        senior * mm.getTicketPrice(2);
+        in.price = st.isMatinee()
+                       ? mm.getTicketPrice(1)
+                       : (1 - senior) * mm.getTicketPrice(0) + senior * mm.getTicketPrice(2);
         in.showtime = s;
         in.promoPoints = game.promos.getPromoPoints();
         in.rating = game.rating.getRating();
@@ -125,12 +125,12 @@ MonthRecord monthRecord(const Game& game, const Ledger& was, int closedDays) {
     r.termPromo = ratingTerms::promotions(game.promos.getPromoPoints(), m.promomax, m.ratingpromo);
     r.termAnger =
         ratingTerms::anger(game.employees.getAverageAnger(), m.empangryquit, m.ratinganger);
-    r.termPay = ratingTerms::pay(game.employees.getAverageWage(), game.employees.getMinWage(),
-                                 m.ratingpay);
-    r.termGames = ratingTerms::gamePops(game.arcades.getAveragePop(), m.arcadepopmin,
-                                        m.arcadepopmax, m.ratinggamepops) +
-                  ratingTerms::gameCount(game.arcades.getMachineCount(), m.arcademax,
-                                         m.ratinggamenums);
+    r.termPay =
+        ratingTerms::pay(game.employees.getAverageWage(), game.employees.getMinWage(), m.ratingpay);
+    r.termGames =
+        ratingTerms::gamePops(game.arcades.getAveragePop(), m.arcadepopmin, m.arcadepopmax,
+                              m.ratinggamepops) +
+        ratingTerms::gameCount(game.arcades.getMachineCount(), m.arcademax, m.ratinggamenums);
     r.termConcessions =
         ratingTerms::concessions(game.concessions.getQualityScore(), m.ratingconcessions);
     r.staff = game.employees.employeeCount();
@@ -339,8 +339,7 @@ void printSummary(const LabResult& r, std::ostream& out) {
         out << what << ": year 1 " << figure(first) << ", year " << last << " " << figure(end);
         if (first > 0 && end >= 0)
             out << std::setprecision(1) << " (" << std::showpos << 100.0 * (end - first) / first
-                << std::noshowpos
-                << "%)";
+                << std::noshowpos << "%)";
         out << "\n";
     };
     freshness("movie offer popularity (weekly mean)", offerPopularity(r, 1),
@@ -445,8 +444,8 @@ void writeCsv(const LabResult& r, std::ostream& out) {
         const GameResult& g = r.games[i];
         for (std::size_t m = 0; m < g.months.size(); ++m) {
             const MonthRecord& month = g.months[m];
-            out << i << ',' << g.seed << ',' << m / 12 << ',' << m % 12 << ',' << month.funds
-                << ',' << month.rating << ',' << (g.lost != LossRoad::None ? 1 : 0) << ','
+            out << i << ',' << g.seed << ',' << m / 12 << ',' << m % 12 << ',' << month.funds << ','
+                << month.rating << ',' << (g.lost != LossRoad::None ? 1 : 0) << ','
                 << roadName(g.lost);
             for (const Column& c : monthColumns())
                 out << ',' << c.value(month);
@@ -526,8 +525,8 @@ void writeChart(const LabResult& r, std::ostream& out) {
     auto y2 = [&](double f) { return chartBottom - (chartBottom - chartTop) * f / most; };
 
     out << std::fixed << std::setprecision(1);
-    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\""
-        << h + panel << "\" font-family=\"sans-serif\" font-size=\"12\">\n";
+    out << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\"" << h + panel
+        << "\" font-family=\"sans-serif\" font-size=\"12\">\n";
     out << "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
     out << "<text x=\"" << left
         << "\" y=\"24\" font-size=\"15\">Zorvane lab: " << r.options.strategy << ", "
@@ -552,8 +551,8 @@ void writeChart(const LabResult& r, std::ostream& out) {
     auto yearLabels = [&](double at) {
         for (int yr = 0; yr <= r.options.years; ++yr) {
             const std::size_t m = std::min(months - 1, static_cast<std::size_t>(yr) * 12);
-            out << "<text x=\"" << x(m) << "\" y=\"" << at
-                << "\" text-anchor=\"middle\">year " << yr << "</text>\n";
+            out << "<text x=\"" << x(m) << "\" y=\"" << at << "\" text-anchor=\"middle\">year "
+                << yr << "</text>\n";
         }
     };
     yearLabels(h - bottom + 20);
@@ -563,16 +562,15 @@ void writeChart(const LabResult& r, std::ostream& out) {
            "dashed)</text>\n";
     for (int i = 0; i <= 4; ++i) {
         const double f = most * i / 4;
-        out << "<line x1=\"" << left << "\" y1=\"" << y2(f) << "\" x2=\"" << w - right
-            << "\" y2=\"" << y2(f) << "\" stroke=\"#ddd\"/>\n";
+        out << "<line x1=\"" << left << "\" y1=\"" << y2(f) << "\" x2=\"" << w - right << "\" y2=\""
+            << y2(f) << "\" stroke=\"#ddd\"/>\n";
         out << "<text x=\"" << left - 6 << "\" y=\"" << y2(f) + 4 << "\" text-anchor=\"end\">$"
             << std::setprecision(0) << f << "</text>\n"
             << std::setprecision(1);
     }
     for (std::size_t k = 0; k < series.size(); ++k) {
-        out << "<polyline fill=\"none\" stroke=\"" << series[k].colour
-            << "\" stroke-width=\"1.5\"" << (series[k].spending ? " stroke-dasharray=\"5 3\"" : "")
-            << " points=\"";
+        out << "<polyline fill=\"none\" stroke=\"" << series[k].colour << "\" stroke-width=\"1.5\""
+            << (series[k].spending ? " stroke-dasharray=\"5 3\"" : "") << " points=\"";
         for (std::size_t m = 0; m < months; ++m)
             if (medians[k][m] >= 0)
                 out << x(m) << ',' << y2(medians[k][m]) << ' ';

@@ -33,10 +33,10 @@ struct MonthRecord {
     double incMovie = 0, incArcade = 0, incConcessions = 0, incOther = 0;
     // Spending by department; rent is the landlord's share of what no department counts,
     // other the rest of it (the building's repairs, renovation and purchase).
-    double payLabor = 0, payMovie = 0, payPromo = 0, payArcade = 0, payConcessions = 0,
-           payLoan = 0, payRent = 0, payOther = 0;
-    double wageBill = 0;                  // a day's pay of the seven posts
-    std::array<double, 3> tickets{};      // standard, matinee, senior price
+    double payLabor = 0, payMovie = 0, payPromo = 0, payArcade = 0, payConcessions = 0, payLoan = 0,
+           payRent = 0, payOther = 0;
+    double wageBill = 0;             // a day's pay of the seven posts
+    std::array<double, 3> tickets{}; // standard, matinee, senior price
     // The rating's largest terms, as today's theater earns them (demand at the expected
     // ticket price, so with no roll).
     int termDemand = 0, termPromo = 0, termAnger = 0, termPay = 0, termGames = 0,
@@ -64,7 +64,7 @@ struct GameResult {
     // market (an empty offer counts as -1).
     std::vector<double> weekOfferPops;
     std::vector<double> monthMarketPops;
-    std::string fatal;               // a fatal game error, if one ended the game
+    std::string fatal; // a fatal game error, if one ended the game
     int fatalOnDay = -1;
 };
 

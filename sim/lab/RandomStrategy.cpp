@@ -165,7 +165,9 @@ void RandomStrategy::staff(Game& game) {
         did("wage");
         // The input box: Cancel, a word, or an amount, with or without a dollar sign.
         const int answer = pick(0, 3);
-        playerView::typeIntoNextInputBox(game, answer == 0 ? "" : answer == 1 ? "lots" : money(0, 25));
+        playerView::typeIntoNextInputBox(game, answer == 0   ? ""
+                                               : answer == 1 ? "lots"
+                                                             : money(0, 25));
         staff.getPosition(pick(1, 7)).setWageInput();
     }
 }

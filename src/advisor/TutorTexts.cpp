@@ -1,8 +1,8 @@
 #include "advisor/TutorTexts.h"
 
+#include "core/Text.h"
 #include "session/Game.h"
 #include "session/MainTexts.h"
-#include "core/Text.h"
 
 #include <array>
 #include <string_view>

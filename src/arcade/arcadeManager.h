@@ -1,6 +1,6 @@
 #pragma once
-#include "arcade/arcade.h"
 #include "arcade/ArcadeRoom.h"
+#include "arcade/arcade.h"
 #include "core/Numbers.h"
 
 #include <array>

@@ -8,7 +8,7 @@ namespace zorvane {
 // Reads a text file line by line. A line ends at CR LF, at LF or at a lone CR, so files
 // written on any system read alike. Counts lines for error messages.
 class LineReader {
-public:
+  public:
     LineReader(std::istream& in, std::string name) : in_(in), name_(std::move(name)) {}
 
     bool readLine(std::string& line);
@@ -19,7 +19,7 @@ public:
     // "file.txt line 12: " for messages.
     std::string where() const { return name_ + " line " + std::to_string(line_) + ": "; }
 
-private:
+  private:
     bool readRawLine(std::string& line);
 
     std::istream& in_;
@@ -33,7 +33,7 @@ std::ifstream openTextFile(const std::string& path);
 
 // Writes the lines of a saved game, each ended by CR LF.
 class LineWriter {
-public:
+  public:
     explicit LineWriter(std::ostream& out) : out_(out) {}
     void line(const std::string& text) { out_ << text << "\r\n"; }
     LineWriter& operator<<(const std::string& text) {
@@ -41,7 +41,7 @@ public:
         return *this;
     }
 
-private:
+  private:
     std::ostream& out_;
 };
 

@@ -10,7 +10,9 @@ namespace zorvane {
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 } // namespace
 
@@ -31,7 +33,6 @@ double roundHalfEven(double value) {
     return std::fmod(fl, 2.0) == 0.0 ? fl : fl + 1.0;
 }
 
-
 std::int32_t toInt32(double value) {
     const double r = roundHalfEven(value);
     if (!(r >= -2147483648.0 && r <= 2147483647.0))
@@ -39,16 +40,12 @@ std::int32_t toInt32(double value) {
     return static_cast<std::int32_t>(r);
 }
 
-
 std::int32_t floorInt32(double value) {
     const double r = Int(value);
     if (!(r >= -2147483648.0 && r <= 2147483647.0))
         throwOverflow(value, "a 32-bit integer");
     return static_cast<std::int32_t>(r);
 }
-
-
-
 
 // Scans the longest number at the start of `text` (after blanks): sign, digits, an optional
 // point with digits, an optional exponent. Returns the characters used, 0 if none.
@@ -169,7 +166,8 @@ double strictNumber(std::string_view text, const std::string& what) {
 
 std::string numberText(double value) {
     char buf[40];
-    const auto end = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, 15).ptr;
+    const auto end =
+        std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, 15).ptr;
     return std::string(buf, end);
 }
 

@@ -56,9 +56,15 @@ double leadingNumber(std::string_view text);
 // The strict conversion: the whole text (blanks around it allowed) must be a number.
 double strictNumber(std::string_view text, const std::string& what);
 
-inline std::int16_t add16(int a, int b) { return checkedInt16(static_cast<long long>(a) + b); }
-inline std::int16_t sub16(int a, int b) { return checkedInt16(static_cast<long long>(a) - b); }
-inline std::int16_t mul16(int a, int b) { return checkedInt16(static_cast<long long>(a) * b); }
+inline std::int16_t add16(int a, int b) {
+    return checkedInt16(static_cast<long long>(a) + b);
+}
+inline std::int16_t sub16(int a, int b) {
+    return checkedInt16(static_cast<long long>(a) - b);
+}
+inline std::int16_t mul16(int a, int b) {
+    return checkedInt16(static_cast<long long>(a) * b);
+}
 
 // A 16-bit signed integer whose every store is range-checked. It reads as an int, so
 // arithmetic runs in int and is checked when the result is stored back (`x = x * 3` traps
@@ -66,7 +72,7 @@ inline std::int16_t mul16(int a, int b) { return checkedInt16(static_cast<long l
 // floorInt16), never silently truncated. Construction from int is explicit so that an
 // expression mixing the two always computes in int.
 class Int16 {
-public:
+  public:
     constexpr Int16() = default;
     explicit Int16(int value) : value_(checkedInt16(value)) {}
     explicit Int16(long long value) : value_(checkedInt16(value)) {}
@@ -91,7 +97,7 @@ public:
     Int16& operator++() { return *this += 1; }
     Int16& operator--() { return *this -= 1; }
 
-private:
+  private:
     std::int16_t value_ = 0;
 };
 

@@ -7,7 +7,7 @@ namespace zorvane {
 
 // The per-user settings store of application "zorvane": section and key to text.
 class SettingsPort {
-public:
+  public:
     virtual ~SettingsPort() = default;
     virtual std::string get(const std::string& section, const std::string& key,
                             const std::string& defaultValue) const = 0;
@@ -17,7 +17,7 @@ public:
 
 // Settings held in memory: tests and the simulator.
 class MemorySettings : public SettingsPort {
-public:
+  public:
     std::string get(const std::string& section, const std::string& key,
                     const std::string& defaultValue) const override {
         auto it = values_.find({section, key});
@@ -28,7 +28,7 @@ public:
         values_[{section, key}] = value;
     }
 
-private:
+  private:
     std::map<std::pair<std::string, std::string>, std::string> values_;
 };
 

@@ -76,9 +76,9 @@ std::string formatGrouped(double value, int decimals) {
     const bool negative = value < 0;
     // 15 significant digits, then a decimal rounding half away from zero.
     char buf[64];
-    const char* const end = std::to_chars(buf, buf + sizeof buf, std::fabs(value),
-                                          std::chars_format::scientific, 14)
-                                .ptr;
+    const char* const end =
+        std::to_chars(buf, buf + sizeof buf, std::fabs(value), std::chars_format::scientific, 14)
+            .ptr;
     std::string mant;
     const char* p = buf;
     for (; p != end && *p != 'e'; ++p)

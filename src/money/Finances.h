@@ -15,7 +15,7 @@ class LineWriter;
 // they are the only two operations that move money, and `spend` refuses rather than
 // overdraws. None of the totals is ever reset: they run from the start of the game.
 class Finances {
-public:
+  public:
     explicit Finances(Game& game) : game_(game) {}
 
     double funds = 0;
@@ -44,7 +44,7 @@ public:
     void saveFinances(LineWriter& out) const;
     void loadFinances(LineReader& in);
 
-private:
+  private:
     Game& game_;
 };
 

@@ -30,9 +30,13 @@ int showtime::getMoviePopularity() const {
     return pop < 1 ? 1 : pop;
 }
 
-int showtime::adsPopularityLoss() const { return mul16(ads, game_->math.showtimeadpop); }
+int showtime::adsPopularityLoss() const {
+    return mul16(ads, game_->math.showtimeadpop);
+}
 
-double showtime::adsIncome() const { return ads * game_->math.showtimeadincome; }
+double showtime::adsIncome() const {
+    return ads * game_->math.showtimeadincome;
+}
 
 // A new game's slot: its number, matinee state and the name of showtimename<number>.
 void showtime::init(int number, bool matineeFlag) {

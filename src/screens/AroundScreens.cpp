@@ -2,7 +2,6 @@
 
 #include "HelpWindow.h"
 #include "Screenshots.h"
-#include "session/Game.h"
 #include "frmGoal.h"
 #include "frmLoader.h"
 #include "frmLog.h"
@@ -11,6 +10,7 @@
 #include "frmMenuFile.h"
 #include "ports/QtDialogs.h"
 #include "ports/QtScreen.h"
+#include "session/Game.h"
 
 #include <QListWidget>
 #include <QMetaObject>

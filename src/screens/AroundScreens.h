@@ -29,7 +29,7 @@ class frmMenuFile;
 //   - the dialog port's help window;
 //   - the main screen's "File" menu and the log box's double click.
 class AroundScreens {
-public:
+  public:
     // `showMain` brings the main screen up at the first "Play !".
     AroundScreens(Game& game, QtScreen& screen, QtDialogs& dialogs, frmMain& main,
                   std::function<void()> showMain);
@@ -45,7 +45,7 @@ public:
     frmLose& lose() { return *lose_; }
     HelpWindow& help() { return *help_; }
 
-private:
+  private:
     Game& game_;
     frmMain& main_;
     std::unique_ptr<frmLoader> loader_;

@@ -45,9 +45,9 @@ void EndPicture::showModal() {
 bool EndPicture::eventFilter(QObject* watched, QEvent* e) {
     if (watched == pic_) {
         const bool doubleClick = e->type() == QEvent::MouseButtonDblClick;
-        const bool enter = e->type() == QEvent::KeyPress &&
-                           (static_cast<QKeyEvent*>(e)->key() == Qt::Key_Return ||
-                            static_cast<QKeyEvent*>(e)->key() == Qt::Key_Enter);
+        const bool enter =
+            e->type() == QEvent::KeyPress && (static_cast<QKeyEvent*>(e)->key() == Qt::Key_Return ||
+                                              static_cast<QKeyEvent*>(e)->key() == Qt::Key_Enter);
         if (doubleClick || enter) {
             emit doubleClicked();
             pictureDoubleClicked();
@@ -58,6 +58,8 @@ bool EndPicture::eventFilter(QObject* watched, QEvent* e) {
 }
 
 // Nothing but the double click closes it: not the window manager's close either.
-void EndPicture::closeEvent(QCloseEvent* e) { e->ignore(); }
+void EndPicture::closeEvent(QCloseEvent* e) {
+    e->ignore();
+}
 
 } // namespace zorvane::screens

@@ -13,7 +13,7 @@ namespace zorvane::screens {
 // modally, and closed only by a double click on the picture (or Enter, for the keyboard).
 class EndPicture : public QDialog {
     Q_OBJECT
-public:
+  public:
     // The picture is a file of the game's folder ("images\goal.png"); missing, it stays empty.
     EndPicture(Game& game, const QString& formName, const QString& pictureName,
                const QString& picturePath, const QString& caption, QWidget* parent = nullptr);
@@ -22,14 +22,14 @@ public:
     void showModal();
     QLabel* picture() const { return pic_; }
 
-public slots:
+  public slots:
     // Esc does not close the picture.
     void reject() override {}
 
-signals:
+  signals:
     void doubleClicked();
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     // What the double click does.
@@ -37,7 +37,7 @@ protected:
 
     Game& game_;
 
-private:
+  private:
     QLabel* pic_;
 };
 

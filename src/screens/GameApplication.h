@@ -11,7 +11,7 @@ namespace zorvane::screens {
 // (quit, new game, a No to "Continue program?") ends it with status 0.
 class GameApplication : public QApplication {
     Q_OBJECT
-public:
+  public:
     GameApplication(int& argc, char** argv);
     bool notify(QObject* receiver, QEvent* event) override;
 

@@ -1,8 +1,8 @@
 #pragma once
 #include "Screenshots.h"
-#include "session/Game.h"
 #include "ports/QtDialogs.h"
 #include "ports/QtScreen.h"
+#include "session/Game.h"
 
 #include <array>
 #include <cstdint>
@@ -34,7 +34,7 @@ struct WindowsSetup {
 // One windowed game: the ports, the game and every window, created hidden in start-up
 // order. main() and the screen tests build one of these.
 class GameWindows {
-public:
+  public:
     explicit GameWindows(WindowsSetup setup);
     ~GameWindows();
 
@@ -57,7 +57,7 @@ public:
     // The Qt Multimedia port when the setup asked for audio, else null.
     QtSound* qtSound() { return ownSound_.get(); }
 
-private:
+  private:
     void addScreenshots();
     void addModeScreenshots();
 

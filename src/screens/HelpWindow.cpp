@@ -28,13 +28,12 @@ HelpWindow::HelpWindow(QString path, QWidget* parent)
     txtHelp_->setObjectName("txtHelp");
     txtHelp_->setAccessibleName("Help text");
     txtHelp_->setOpenExternalLinks(true);
-    setStyleSheet(
-        "QListWidget { background: #1D2A44; color: #F6E7C1; border: none;"
-        " font-family: 'DejaVu Sans'; font-size: 10pt; padding: 4px; }"
-        "QListWidget::item { padding: 1px 2px; }"
-        "QListWidget::item:selected { background: #C9A227; color: #2B1D14; }"
-        "QTextBrowser { background: #F6E7C1; color: #2B1D14; border: none;"
-        " font-family: 'DejaVu Sans'; font-size: 10pt; }");
+    setStyleSheet("QListWidget { background: #1D2A44; color: #F6E7C1; border: none;"
+                  " font-family: 'DejaVu Sans'; font-size: 10pt; padding: 4px; }"
+                  "QListWidget::item { padding: 1px 2px; }"
+                  "QListWidget::item:selected { background: #C9A227; color: #2B1D14; }"
+                  "QTextBrowser { background: #F6E7C1; color: #2B1D14; border: none;"
+                  " font-family: 'DejaVu Sans'; font-size: 10pt; }");
 
     auto* split = new QSplitter(this);
     split->addWidget(lstContents_);

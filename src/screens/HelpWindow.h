@@ -10,7 +10,7 @@ namespace zorvane::screens {
 // built from its headings beside it. A missing or unreadable file is said in one line.
 class HelpWindow : public QWidget {
     Q_OBJECT
-public:
+  public:
     explicit HelpWindow(QString path, QWidget* parent = nullptr);
 
     // Reads the file again, shows the window at its contents and brings it to the front.
@@ -21,7 +21,7 @@ public:
     QListWidget* contents() const { return lstContents_; }
     QTextBrowser* text() const { return txtHelp_; }
 
-private:
+  private:
     void load();
 
     QString path_;

@@ -12,7 +12,7 @@ namespace zorvane::screens {
 // screen ("frmMain.png", and "-N" for tab N or a second state). Each screen adds its shots;
 // the run plays them in the order added.
 class Screenshots {
-public:
+  public:
     using Shot = std::function<void(Screenshots&)>;
 
     void add(Shot shot) { shots_.push_back(std::move(shot)); }
@@ -28,7 +28,7 @@ public:
     // Every shot into `dir` (created if needed); the number of files that failed.
     int run(const QString& dir);
 
-private:
+  private:
     std::vector<Shot> shots_;
     std::vector<Shot> lastShots_;
     QString dir_;

@@ -90,7 +90,9 @@ frmArcade::frmArcade(Game& game, std::uint32_t bgr, QWidget* parent)
     build();
 }
 
-void frmArcade::click() { routeClick(this); }
+void frmArcade::click() {
+    routeClick(this);
+}
 
 // --- building the controls ---
 

@@ -1,8 +1,8 @@
 #include "frmBuilding.h"
 
+#include "Screenshots.h"
 #include "building/BuildingTexts.h"
 #include "frame/ButtonLabel.h"
-#include "Screenshots.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
@@ -21,7 +21,8 @@ constexpr int buttonTop = 3300, buttonWidth = 1800, buttonPitch = 2000, buttonHe
 } // namespace
 
 frmBuilding::frmBuilding(Game& game, std::uint32_t bgr, QWidget* parent)
-    : ChildFrame(game, 7, QStringLiteral("frmBuilding"), QString::fromLatin1(buildingHeader), bgr, parent) {
+    : ChildFrame(game, 7, QStringLiteral("frmBuilding"), QString::fromLatin1(buildingHeader), bgr,
+                 parent) {
     QWidget* b = body();
     for (std::size_t i = 0; i < lblBuildingValue_.size(); ++i) {
         const int top = rowTop + static_cast<int>(i) * rowPitch;
@@ -52,18 +53,20 @@ frmBuilding::frmBuilding(Game& game, std::uint32_t bgr, QWidget* parent)
     imgOOO_->raise();
 
     buildingManager& house = game_.building;
-    void (buildingManager::*const actions[4])() = {&buildingManager::remodel, &buildingManager::renovateBuilding,
-                                                     &buildingManager::repairBuilding,
-                                                     &buildingManager::purchaseBuilding};
+    void (buildingManager::*const actions[4])() = {
+        &buildingManager::remodel, &buildingManager::renovateBuilding,
+        &buildingManager::repairBuilding, &buildingManager::purchaseBuilding};
     for (std::size_t i = 0; i < buildingButtons.size(); ++i) {
         const BuildingButton& def = buildingButtons[i];
-        auto* btn = new ButtonLabel(QString::fromLatin1(def.control), QString::fromLatin1(def.caption), b);
+        auto* btn =
+            new ButtonLabel(QString::fromLatin1(def.control), QString::fromLatin1(def.caption), b);
         btn->setAccessibleName(QString::fromLatin1(def.caption));
         btn->setToolTip(QString::fromLatin1(def.tip));
         btn->setColours(fromBgr(buildingButtonColour), look::ink);
         btn->setFont(look::font(9, true));
         btn->setAlignment(Qt::AlignCenter);
-        btn->setGeometry(pxRect(descLeft + static_cast<int>(i) * buttonPitch, buttonTop, buttonWidth, buttonHeight));
+        btn->setGeometry(pxRect(descLeft + static_cast<int>(i) * buttonPitch, buttonTop,
+                                buttonWidth, buttonHeight));
         connect(btn, &ButtonLabel::clicked, this, [&house, act = actions[i]] { (house.*act)(); });
     }
     paintBuilding();
@@ -88,7 +91,8 @@ void frmBuilding::addScreenshots(Screenshots& shots) {
         for (const bool broken : {false, true}) {
             game_.building.IamBroken = broken;
             game_.building.showBuilding();
-            s.save(this, broken ? QStringLiteral("frmBuilding-broken.png") : QStringLiteral("frmBuilding.png"));
+            s.save(this, broken ? QStringLiteral("frmBuilding-broken.png")
+                                : QStringLiteral("frmBuilding.png"));
         }
     });
 }

@@ -14,7 +14,7 @@ class ButtonLabel;
 // buttons that remodel, renovate, repair or buy it.
 class frmBuilding : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmBuilding(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 
     // Writes the figures and shows or hides the sign.
@@ -23,7 +23,7 @@ public:
     void attach(QtScreen& screen) override;
     void addScreenshots(Screenshots& shots) override;
 
-private:
+  private:
     std::array<QLabel*, 9> lblBuildingValue_{};
     QLabel* imgScreen_;
     QLabel* imgOOO_;

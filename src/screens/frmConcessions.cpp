@@ -33,12 +33,14 @@ struct Column {
     int left, width;
 };
 constexpr Column pricePicture{14, pictureSize};
-constexpr std::array<Column, 5> priceColumns{{{74, 150}, {236, 84}, {332, 88}, {430, 80}, {520, 90}}};
+constexpr std::array<Column, 5> priceColumns{
+    {{74, 150}, {236, 84}, {332, 88}, {430, 80}, {520, 90}}};
 
 // "Stock": a row per item with a small picture and the item's name.
 constexpr int stockTop = 28, stockPitch = 44, stockPicture = 36;
 constexpr Column stockName{56, 84};
-constexpr std::array<Column, 5> stockColumns{{{142, 70}, {214, 104}, {320, 112}, {434, 92}, {528, 84}}};
+constexpr std::array<Column, 5> stockColumns{
+    {{142, 70}, {214, 104}, {320, 112}, {434, 92}, {528, 84}}};
 
 constexpr int stripLeft = 6, stripWidth = 608;
 
@@ -63,8 +65,9 @@ QLabel* columnHeader(QWidget* page, const char* caption, const Column& c) {
 void strip(QWidget* page, int top, int height) {
     auto* f = new QFrame(page);
     f->setObjectName(QStringLiteral("shpRow"));
-    f->setStyleSheet(QStringLiteral("QFrame#shpRow { background: #F6E7C1; border: 1px solid #C9A227;"
-                                    " border-radius: 6px; }"));
+    f->setStyleSheet(
+        QStringLiteral("QFrame#shpRow { background: #F6E7C1; border: 1px solid #C9A227;"
+                       " border-radius: 6px; }"));
     f->setGeometry(stripLeft, top, stripWidth, height);
     f->lower();
 }
@@ -100,7 +103,9 @@ void showInBox(QLineEdit* box, const std::string& text) {
         box->setText(t);
 }
 
-void showIn(QLabel* label, const std::string& text) { label->setText(QString::fromStdString(text)); }
+void showIn(QLabel* label, const std::string& text) {
+    label->setText(QString::fromStdString(text));
+}
 
 // The item's picture from its file, drawn at twice the size of the 48-pixel cell; a missing
 // or unreadable file leaves the cell empty.
@@ -116,8 +121,8 @@ QPixmap itemPicture(const std::string& path, int size) {
 } // namespace
 
 frmConcessions::frmConcessions(Game& game, std::uint32_t bgr, QWidget* parent)
-    : ChildFrame(game, 4, QStringLiteral("frmConcessions"), QString::fromLatin1(concessionsHeader), bgr,
-                 parent) {
+    : ChildFrame(game, 4, QStringLiteral("frmConcessions"), QString::fromLatin1(concessionsHeader),
+                 bgr, parent) {
     resize(width(), px(screenHeight));
     SSTab1_ = new QTabWidget(body());
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
@@ -144,13 +149,15 @@ QWidget* frmConcessions::buildPricesTab() {
         const int top = priceTop + i * pricePitch;
         const int cell = top + (pictureSize - cellHeight) / 2;
         strip(page, top - 1, pictureSize + 2);
-        r.imgConcession = makeLabel(page, QStringLiteral("imgConcession_%1").arg(i), Qt::AlignCenter);
+        r.imgConcession =
+            makeLabel(page, QStringLiteral("imgConcession_%1").arg(i), Qt::AlignCenter);
         r.imgConcession->setGeometry(pricePicture.left, top, pricePicture.width, pictureSize);
 
         r.cmbQuality = new QComboBox(page);
         r.cmbQuality->setObjectName(QStringLiteral("cmbQuality_%1").arg(i));
         r.cmbQuality->setFont(look::font(8.5));
-        r.cmbQuality->setGeometry(priceColumns[0].left + 4, cell, priceColumns[0].width - 8, cellHeight);
+        r.cmbQuality->setGeometry(priceColumns[0].left + 4, cell, priceColumns[0].width - 8,
+                                  cellHeight);
         connect(r.cmbQuality, &QComboBox::activated, this, [this, &stand, i](int position) {
             routeClick(this);
             stand.setItemQuality(i, position);
@@ -164,7 +171,9 @@ QWidget* frmConcessions::buildPricesTab() {
         const char* names[3] = {"lblMyCost_%1", "lblSold_%1", "lblProfit_%1"};
         for (std::size_t v = 0; v < 3; ++v) {
             *values[v] = makeLabel(page, QString::fromLatin1(names[v]).arg(i), Qt::AlignHCenter);
-            (*values[v])->setGeometry(priceColumns[v + 2].left, cell, priceColumns[v + 2].width, cellHeight);
+            (*values[v])
+                ->setGeometry(priceColumns[v + 2].left, cell, priceColumns[v + 2].width,
+                              cellHeight);
         }
     }
     const int totalsTop = priceTop + itemCount * pricePitch + 4;
@@ -176,9 +185,12 @@ QWidget* frmConcessions::buildPricesTab() {
     const char* names[3] = {"lblTotalMyCost", "lblTotalSold", "lblTotalProfit"};
     for (std::size_t v = 0; v < 3; ++v) {
         *totals[v] = makeLabel(page, QString::fromLatin1(names[v]), Qt::AlignHCenter, true);
-        (*totals[v])->setGeometry(priceColumns[v + 2].left, totalsTop, priceColumns[v + 2].width, cellHeight);
-        (*totals[v])->setAccessibleName(QStringLiteral("%1, %2").arg(QString::fromLatin1(concessionPriceColumns[v + 2]),
-                                                                     caption->text()));
+        (*totals[v])
+            ->setGeometry(priceColumns[v + 2].left, totalsTop, priceColumns[v + 2].width,
+                          cellHeight);
+        (*totals[v])
+            ->setAccessibleName(QStringLiteral("%1, %2").arg(
+                QString::fromLatin1(concessionPriceColumns[v + 2]), caption->text()));
     }
     return page;
 }
@@ -196,19 +208,23 @@ QWidget* frmConcessions::buildStockTab() {
         strip(page, top - 2, stockPicture + 4);
         r.imgStock = makeLabel(page, QStringLiteral("imgStock_%1").arg(i), Qt::AlignCenter);
         r.imgStock->setGeometry(pricePicture.left + 2, top, stockPicture, stockPicture);
-        r.lblStockItem = makeLabel(page, QStringLiteral("lblStockItem_%1").arg(i), Qt::AlignLeft, true);
+        r.lblStockItem =
+            makeLabel(page, QStringLiteral("lblStockItem_%1").arg(i), Qt::AlignLeft, true);
         r.lblStockItem->setGeometry(stockName.left, cell, stockName.width, cellHeight);
 
         r.lblInStock = makeLabel(page, QStringLiteral("lblInStock_%1").arg(i), Qt::AlignHCenter);
         r.lblInStock->setGeometry(stockColumns[0].left, cell, stockColumns[0].width, cellHeight);
-        r.txtBuyPerMonth = makeBox(page, QStringLiteral("txtBuyPerMonth_%1").arg(i), stockColumns[1], cell);
+        r.txtBuyPerMonth =
+            makeBox(page, QStringLiteral("txtBuyPerMonth_%1").arg(i), stockColumns[1], cell);
         r.txtBuyPerMonth->installEventFilter(this);
         connect(r.txtBuyPerMonth, &QLineEdit::returnPressed, this, [this, i] { applyOrder(i); });
         QLabel** values[3] = {&r.lblLastMonthSales, &r.lblCostPerItem, &r.lblTotalCost};
         const char* names[3] = {"lblLastMonthSales_%1", "lblCostPerItem_%1", "lblTotalCost_%1"};
         for (std::size_t v = 0; v < 3; ++v) {
             *values[v] = makeLabel(page, QString::fromLatin1(names[v]).arg(i), Qt::AlignHCenter);
-            (*values[v])->setGeometry(stockColumns[v + 2].left, cell, stockColumns[v + 2].width, cellHeight);
+            (*values[v])
+                ->setGeometry(stockColumns[v + 2].left, cell, stockColumns[v + 2].width,
+                              cellHeight);
         }
     }
     const int totalTop = stockTop + itemCount * stockPitch + 4;
@@ -216,16 +232,20 @@ QWidget* frmConcessions::buildStockTab() {
     QLabel* caption = makeLabel(page, QStringLiteral("lblTotal"), Qt::AlignLeft, true);
     caption->setText(QString::fromLatin1(concessionStockTotal));
     caption->setGeometry(pricePicture.left + 4, totalTop, 120, cellHeight);
-    lblTotalTotalCost_ = makeLabel(page, QStringLiteral("lblTotalTotalCost"), Qt::AlignHCenter, true);
-    lblTotalTotalCost_->setGeometry(stockColumns[4].left, totalTop, stockColumns[4].width, cellHeight);
-    lblTotalTotalCost_->setAccessibleName(
-        QStringLiteral("%1, %2").arg(QString::fromLatin1(concessionStockColumns[4]).trimmed(), caption->text()));
+    lblTotalTotalCost_ =
+        makeLabel(page, QStringLiteral("lblTotalTotalCost"), Qt::AlignHCenter, true);
+    lblTotalTotalCost_->setGeometry(stockColumns[4].left, totalTop, stockColumns[4].width,
+                                    cellHeight);
+    lblTotalTotalCost_->setAccessibleName(QStringLiteral("%1, %2").arg(
+        QString::fromLatin1(concessionStockColumns[4]).trimmed(), caption->text()));
 
     QLabel* income = makeLabel(page, QStringLiteral("lblIncomeCaption"), Qt::AlignRight, true);
     income->setText(QString::fromLatin1(concessionIncomeCaption));
     const Column& last = stockColumns[4];
-    income->setGeometry(stockColumns[2].left, totalTop + 30, last.left - stockColumns[2].left - 6, cellHeight);
-    lblTotalIncomeLastMonth_ = makeLabel(page, QStringLiteral("lblTotalIncomeLastMonth"), Qt::AlignHCenter, true);
+    income->setGeometry(stockColumns[2].left, totalTop + 30, last.left - stockColumns[2].left - 6,
+                        cellHeight);
+    lblTotalIncomeLastMonth_ =
+        makeLabel(page, QStringLiteral("lblTotalIncomeLastMonth"), Qt::AlignHCenter, true);
     lblTotalIncomeLastMonth_->setGeometry(last.left, totalTop + 30, last.width, cellHeight);
     lblTotalIncomeLastMonth_->setAccessibleName(income->text().chopped(1)); // without its colon
     look::paint(lblTotalIncomeLastMonth_, look::cream, look::ink);
@@ -270,7 +290,8 @@ void frmConcessions::paintListing() {
                 r.cmbQuality->addItem(QString::fromStdString(q));
         }
         // A saved game's quality beyond the list leaves the list with no choice shown.
-        const int position = l.qualityIndex >= 0 && l.qualityIndex < r.cmbQuality->count() ? l.qualityIndex : -1;
+        const int position =
+            l.qualityIndex >= 0 && l.qualityIndex < r.cmbQuality->count() ? l.qualityIndex : -1;
         if (r.cmbQuality->currentIndex() != position)
             r.cmbQuality->setCurrentIndex(position);
         showInBox(r.txtPrice, l.price);
@@ -326,7 +347,9 @@ int frmConcessions::boxItem(QObject* box) const {
 }
 
 bool frmConcessions::eventFilter(QObject* watched, QEvent* event) {
-    const int item = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut ? boxItem(watched) : -1;
+    const int item = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut
+                         ? boxItem(watched)
+                         : -1;
     if (item < 0)
         return ChildFrame::eventFilter(watched, event);
     Row& r = rows_[static_cast<std::size_t>(item)];

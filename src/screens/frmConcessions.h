@@ -26,7 +26,7 @@ namespace zorvane::screens {
 // - While the player is typing into a box, the running days leave that box alone.
 class frmConcessions : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     static constexpr int itemCount = 5;
 
     frmConcessions(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
@@ -39,10 +39,10 @@ public:
     void attach(QtScreen& screen) override;
     void addScreenshots(Screenshots& shots) override;
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     struct Row {
         QLabel* imgConcession = nullptr;
         QComboBox* cmbQuality = nullptr;

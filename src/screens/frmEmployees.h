@@ -7,7 +7,7 @@ namespace zorvane::screens {
 // controls go into body().
 class frmEmployees : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmEmployees(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 };
 

@@ -5,6 +5,8 @@ namespace zorvane::screens {
 frmGoal::frmGoal(Game& game, QWidget* parent)
     : EndPicture(game, "frmGoal", "picGoal", "images\\goal.png", "Goal reached", parent) {}
 
-void frmGoal::pictureDoubleClicked() { hide(); }
+void frmGoal::pictureDoubleClicked() {
+    hide();
+}
 
 } // namespace zorvane::screens

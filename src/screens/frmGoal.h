@@ -7,10 +7,10 @@ namespace zorvane::screens {
 // play on.
 class frmGoal : public EndPicture {
     Q_OBJECT
-public:
+  public:
     explicit frmGoal(Game& game, QWidget* parent = nullptr);
 
-protected:
+  protected:
     void pictureDoubleClicked() override;
 };
 

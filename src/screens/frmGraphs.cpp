@@ -3,9 +3,9 @@
 #include "Screenshots.h"
 #include "frame/Look.h"
 #include "frame/Twips.h"
-#include "ports/QtScreen.h"
 #include "money/GraphManager.h"
 #include "money/GraphTexts.h"
+#include "ports/QtScreen.h"
 #include "session/Game.h"
 
 #include <QApplication>
@@ -21,14 +21,14 @@ namespace zorvane::screens {
 namespace {
 
 QRect toPx(const GraphRect& r) {
-    return {px(static_cast<int>(r.left)), px(static_cast<int>(r.top)), px(static_cast<int>(r.width)),
-            px(static_cast<int>(r.height))};
+    return {px(static_cast<int>(r.left)), px(static_cast<int>(r.top)),
+            px(static_cast<int>(r.width)), px(static_cast<int>(r.height))};
 }
 
 // The drawing surface: the grid, the X marks and the lines joining them, as the last
 // redraw left them (in twips from the picture's top left).
 class GraphPicture : public QWidget {
-public:
+  public:
     GraphPicture(const GraphManager& graph, QWidget* parent) : QWidget(parent), graph_(graph) {
         setObjectName(QStringLiteral("picFundsGraph"));
         setAccessibleName(QStringLiteral("Funds graph"));
@@ -36,7 +36,7 @@ public:
         look::paint(this, look::cream, look::ink);
     }
 
-protected:
+  protected:
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
         p.setRenderHint(QPainter::Antialiasing);
@@ -56,17 +56,22 @@ protected:
         p.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 
-private:
+  private:
     const GraphManager& graph_;
 };
 
-QColor systemWindow() { return QApplication::palette().color(QPalette::Window); }
-QColor systemWindowText() { return QApplication::palette().color(QPalette::WindowText); }
+QColor systemWindow() {
+    return QApplication::palette().color(QPalette::Window);
+}
+QColor systemWindowText() {
+    return QApplication::palette().color(QPalette::WindowText);
+}
 
 } // namespace
 
 frmGraphs::frmGraphs(Game& game, std::uint32_t bgr, QWidget* parent)
-    : ChildFrame(game, 6, QStringLiteral("frmGraphs"), QString::fromLatin1(graphCaptions::header), bgr, parent) {
+    : ChildFrame(game, 6, QStringLiteral("frmGraphs"), QString::fromLatin1(graphCaptions::header),
+                 bgr, parent) {
     QWidget* b = body();
     picFundsGraph_ = new GraphPicture(game_.graph, b);
     for (std::size_t i = 0; i < lblGrfFunds_.size(); ++i) {
@@ -92,7 +97,8 @@ frmGraphs::frmGraphs(Game& game, std::uint32_t bgr, QWidget* parent)
     frameFundsSummary_->setObjectName(QStringLiteral("frameFundsSummary"));
     frameFundsSummary_->setAutoFillBackground(true);
     frameFundsSummary_->setGeometry(pxRect(7400, 200, 2000, 2400));
-    const char* captions[3] = {graphCaptions::highest, graphCaptions::lowest, graphCaptions::current};
+    const char* captions[3] = {graphCaptions::highest, graphCaptions::lowest,
+                               graphCaptions::current};
     const char* values[3] = {"lblFundsSummaryHigh", "lblFundsSummaryLow", "lblFundsSummaryCurrent"};
     QLabel* made[3] = {};
     for (int i = 0; i < 3; ++i) {
@@ -145,7 +151,8 @@ bool frmGraphs::eventFilter(QObject* watched, QEvent* event) {
         QLabel* l = lblGrfFundsMonth_[i];
         if (watched != l)
             continue;
-        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        if (event->type() == QEvent::MouseButtonPress ||
+            event->type() == QEvent::MouseButtonDblClick) {
             if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
                 l->setFrameStyle(QFrame::Panel | QFrame::Raised);
                 l->setLineWidth(2);

@@ -14,7 +14,7 @@ namespace zorvane::screens {
 // here and no hover text.
 class frmGraphs : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmGraphs(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 
     // Puts the last redraw on screen: labels, their places and the picture.
@@ -23,11 +23,11 @@ public:
     void attach(QtScreen& screen) override;
     void addScreenshots(Screenshots& shots) override;
 
-protected:
+  protected:
     bool event(QEvent* e) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     // Plays a year of days for the screenshot, the pictures that would wait for a double
     // click only counted.
     void playYearForShot(Screenshots& shots);

@@ -1,12 +1,12 @@
 #include "frmLoader.h"
 
-#include "session/Game.h"
-#include "goals/GoalTexts.h"
-#include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
+#include "goals/GoalTexts.h"
 #include "ports/QtScreen.h"
+#include "session/Game.h"
+#include "session/TitleScreen.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -27,12 +27,11 @@ const QColor red(0xFF, 0x00, 0x00);
 const QColor black(0x00, 0x00, 0x00);
 
 // The two boxes sit on the houses left and right of the theater.
-const char* const boxStyle =
-    "QListWidget, QPlainTextEdit { background: #F6E7C1; color: #2B1D14;"
-    " border: 2px solid #C9A227; font-family: 'DejaVu Sans';"
-    " font-size: 9pt; }"
-    "QListWidget::item { padding: 2px 4px; }"
-    "QListWidget::item:selected { background: #B3262E; color: #F6E7C1; }";
+const char* const boxStyle = "QListWidget, QPlainTextEdit { background: #F6E7C1; color: #2B1D14;"
+                             " border: 2px solid #C9A227; font-family: 'DejaVu Sans';"
+                             " font-size: 9pt; }"
+                             "QListWidget::item { padding: 2px 4px; }"
+                             "QListWidget::item:selected { background: #B3262E; color: #F6E7C1; }";
 
 } // namespace
 
@@ -110,7 +109,9 @@ void frmLoader::sLog(const QString& line) {
     txtStatus_->ensureCursorVisible();
 }
 
-void frmLoader::showDetails(const QString& text) { txtStatus_->setPlainText(text); }
+void frmLoader::showDetails(const QString& text) {
+    txtStatus_->setPlainText(text);
+}
 
 void frmLoader::refreshGoals() {
     const QSignalBlocker quiet(lstGoals_);
@@ -142,9 +143,13 @@ void frmLoader::exitClicked() {
     hide();
 }
 
-void frmLoader::versionClicked() { showChanges(game_); }
+void frmLoader::versionClicked() {
+    showChanges(game_);
+}
 
-void frmLoader::showModal() { exec(); }
+void frmLoader::showModal() {
+    exec();
+}
 
 void frmLoader::paintEvent(QPaintEvent*) {
     if (background_.isNull())

@@ -20,7 +20,7 @@ class QtScreen;
 // the exit. It is the first screen shown; the Goal menu brings it back modally.
 class frmLoader : public QDialog {
     Q_OBJECT
-public:
+  public:
     explicit frmLoader(Game& game, QWidget* parent = nullptr);
 
     // Hooks the title screen into the screen port: status lines, goal descriptions, the goal
@@ -41,19 +41,19 @@ public:
     void exitClicked();
     void versionClicked();
 
-signals:
+  signals:
     // The first "Play !": the main screen comes up.
     void mainScreenWanted();
 
-public slots:
+  public slots:
     // Esc does nothing here: the exit is a button of its own.
     void reject() override {}
 
-protected:
+  protected:
     void paintEvent(QPaintEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
-private:
+  private:
     void goalClicked();
 
     Game& game_;

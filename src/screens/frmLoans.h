@@ -7,7 +7,7 @@ namespace zorvane::screens {
 // controls go into body().
 class frmLoans : public ChildFrame {
     Q_OBJECT
-public:
+  public:
     frmLoans(Game& game, std::uint32_t bgr, QWidget* parent = nullptr);
 };
 

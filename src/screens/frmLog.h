@@ -14,7 +14,7 @@ namespace zorvane::screens {
 // of the game log is added to it as well, so it keeps what the main box throws away.
 class frmLog : public QWidget {
     Q_OBJECT
-public:
+  public:
     explicit frmLog(Game& game, QWidget* parent = nullptr);
 
     // A new line of the game log (the main box gets it too). Ignored while hidden.
@@ -24,10 +24,10 @@ public:
 
     QPlainTextEdit* box() const { return txtBigLog_; }
 
-protected:
+  protected:
     bool event(QEvent* e) override;
 
-private:
+  private:
     Game& game_;
     QPlainTextEdit* txtBigLog_;
 };

@@ -7,10 +7,10 @@ namespace zorvane::screens {
 // question plays on, and the picture comes again at the next loss.
 class frmLose : public EndPicture {
     Q_OBJECT
-public:
+  public:
     explicit frmLose(Game& game, QWidget* parent = nullptr);
 
-protected:
+  protected:
     void pictureDoubleClicked() override;
 };
 

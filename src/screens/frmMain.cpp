@@ -1,15 +1,15 @@
 #include "frmMain.h"
 
-#include "session/Game.h"
-#include "reputation/ReputationTexts.h"
-#include "session/MainTexts.h"
-#include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
 #include "ports/QtScreen.h"
+#include "reputation/ReputationTexts.h"
+#include "session/Game.h"
+#include "session/MainTexts.h"
+#include "session/TitleScreen.h"
 
 #include <QApplication>
 #include <QGroupBox>
@@ -37,20 +37,21 @@ constexpr int logLeft = 396, logTop = 48, logWidth = 236, logHeight = 176;
 constexpr int nextDayGap = 3;
 
 const char* const summaryCaptions[] = {
-    "Total Income: ", "Total Spent: ",   "Profit/Loss: ",    "Ticket Sales:  ",
-    "Arcade Income:  ", "Concession Income:  ", "Funds: ",   "Promotions:  ",
-    "Labor Costs:  ",   "Movie Purchases:  ", "Arcades:  ",  "Concession:  ",
+    "Total Income: ",   "Total Spent: ",        "Profit/Loss: ", "Ticket Sales:  ",
+    "Arcade Income:  ", "Concession Income:  ", "Funds: ",       "Promotions:  ",
+    "Labor Costs:  ",   "Movie Purchases:  ",   "Arcades:  ",    "Concession:  ",
     "Loan Payment:  "};
 // The figure labels in MoneySummary's order, with the caption index each stands beside.
 struct Figure {
     const char* name;
     int caption;
 };
-const Figure figures[] = {{"lblIncome", 0},         {"lblSpent", 1},          {"lblProfit", 2},
-                          {"lblMyFunds", 6},        {"lblTicketSales", 3},    {"lblArcadeSales", 4},
-                          {"lblConcessionSales", 5}, {"lblDepPromo", 7},      {"lblDepLabor", 8},
-                          {"lblDepMovie", 9},       {"lblDepArcades", 10},    {"lblDepConcessions", 11},
-                          {"lblDepLoan", 12}};
+const Figure figures[] = {
+    {"lblIncome", 0},          {"lblSpent", 1},       {"lblProfit", 2},
+    {"lblMyFunds", 6},         {"lblTicketSales", 3}, {"lblArcadeSales", 4},
+    {"lblConcessionSales", 5}, {"lblDepPromo", 7},    {"lblDepLabor", 8},
+    {"lblDepMovie", 9},        {"lblDepArcades", 10}, {"lblDepConcessions", 11},
+    {"lblDepLoan", 12}};
 
 QString captionName(int caption) {
     QString text = QString::fromLatin1(summaryCaptions[caption]).trimmed();
@@ -66,8 +67,12 @@ QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, con
     return l;
 }
 
-QColor systemWindow() { return QApplication::palette().color(QPalette::Window); }
-QColor systemWindowText() { return QApplication::palette().color(QPalette::WindowText); }
+QColor systemWindow() {
+    return QApplication::palette().color(QPalette::Window);
+}
+QColor systemWindowText() {
+    return QApplication::palette().color(QPalette::WindowText);
+}
 
 } // namespace
 
@@ -86,7 +91,8 @@ frmMain::frmMain(Game& game, QtScreen& screen, QWidget* parent)
     screen_.addPainter(View::Speed, [this] { paintSpeed(); });
     screen_.addPainter(View::Rating, [this] { paintRating(); });
     screen_.addPainter(View::Expand, [this] { paintExpand(); });
-    screen_.onLogLine.push_back([this](const std::string& line, bool cleared) { appendLog(line, cleared); });
+    screen_.onLogLine.push_back(
+        [this](const std::string& line, bool cleared) { appendLog(line, cleared); });
     screen_.onLogCleared.push_back([this] {
         pendingLog_.clear();
         logCleared_ = true;
@@ -127,7 +133,8 @@ void frmMain::build() {
     const char* menuTips[] = {"File (Ctrl+N, Ctrl+O, Ctrl+S, Ctrl+Shift+S, Ctrl+Q)", "Help (F1)",
                               "Goal", "Settings"};
     for (int i = 0; i < 4; ++i) {
-        auto* b = new ButtonLabel(QStringLiteral("lbcMenu_%1").arg(i), QString::fromLatin1(menus[i]), this);
+        auto* b = new ButtonLabel(QStringLiteral("lbcMenu_%1").arg(i),
+                                  QString::fromLatin1(menus[i]), this);
         b->setGeometry(6 + i * 70, menuTop, 64, menuHeight);
         b->setColours(systemWindow(), QColor(255, 0, 0));
         b->setToolTip(QString::fromLatin1(menuTips[i]));
@@ -183,8 +190,9 @@ void frmMain::buildCalendar() {
                                     ButtonLabel::Style::Immediate);
         img->setGeometry(speedLeft + i * speedPitch, speedTop, speedWidth, speedHeight);
         img->setAccessibleName(QString::fromLatin1(speedTips[static_cast<std::size_t>(i)]));
-        img->setToolTip(QStringLiteral("%1 (%2)").arg(QString::fromLatin1(speedTips[static_cast<std::size_t>(i)]),
-                                                      QString::fromLatin1(keys[i])));
+        img->setToolTip(QStringLiteral("%1 (%2)").arg(
+            QString::fromLatin1(speedTips[static_cast<std::size_t>(i)]),
+            QString::fromLatin1(keys[i])));
         img->setPixmap(loadPicture(game_, "images\\speed" + std::to_string(i) + ".png"));
         img->setFrameShape(QFrame::Panel);
         img->setLineWidth(2);
@@ -204,15 +212,15 @@ void frmMain::buildCalendar() {
 void frmMain::buildRating() {
     makeLabel(this, QStringLiteral("Label1"), QStringLiteral("Theater Rating"),
               QRect(historyLeft, 106, 96, 16));
-    lblRatingBack_ = makeLabel(this, QStringLiteral("lblRatingBack"), QString(),
-                               QRect(110, 108, 200, 12));
+    lblRatingBack_ =
+        makeLabel(this, QStringLiteral("lblRatingBack"), QString(), QRect(110, 108, 200, 12));
     look::paint(lblRatingBack_, look::night, look::cream);
     lblRatingBack_->setFrameShape(QFrame::Box);
-    lblRatingBar_ = makeLabel(lblRatingBack_, QStringLiteral("lblRatingBar"), QString(),
-                              QRect(0, 0, 0, 12));
+    lblRatingBar_ =
+        makeLabel(lblRatingBack_, QStringLiteral("lblRatingBar"), QString(), QRect(0, 0, 0, 12));
     look::paint(lblRatingBar_, look::teal, look::cream);
-    lblRatingCaption_ = makeLabel(this, QStringLiteral("lblRatingCaption"), QString(),
-                                  QRect(316, 105, 60, 18));
+    lblRatingCaption_ =
+        makeLabel(this, QStringLiteral("lblRatingCaption"), QString(), QRect(316, 105, 60, 18));
     lblRatingCaption_->setAccessibleName(QStringLiteral("Theater Rating"));
     lblRatingCaption_->setFont(look::font(9, true));
     look::paint(lblRatingCaption_, look::navy, look::popcorn);
@@ -247,9 +255,14 @@ void frmMain::buildSummary() {
     // Three columns: the totals, the takings, then (open) the spending by department.
     auto place = [](int caption) -> QPoint {
         switch (caption) {
-        case 0: case 1: case 2: case 6:
+        case 0:
+        case 1:
+        case 2:
+        case 6:
             return {10, 20 + (caption == 6 ? 3 : caption) * 15};
-        case 3: case 4: case 5:
+        case 3:
+        case 4:
+        case 5:
             return {232, 20 + (caption - 3) * 15};
         default: // the six spending totals, two columns under the divider
             return {caption < 10 ? 10 : 232, 112 + ((caption - 7) % 3) * 22};
@@ -316,18 +329,21 @@ void frmMain::buildShortcuts() {
         imgSpeed_[static_cast<std::size_t>(target)]->trigger();
     });
     for (int s = 1; s <= 3; ++s)
-        addShortcut(Qt::Key_0 + s, [this, s] { imgSpeed_[static_cast<std::size_t>(s)]->trigger(); });
+        addShortcut(Qt::Key_0 + s,
+                    [this, s] { imgSpeed_[static_cast<std::size_t>(s)]->trigger(); });
     addShortcut(Qt::Key_N, [this] { lbcNextDay_->trigger(); });
     for (int m = 0; m < 8; ++m)
-        addShortcut(Qt::Key_F2 + m, [this, m] { lbcMode_[static_cast<std::size_t>(m)]->trigger(); });
+        addShortcut(Qt::Key_F2 + m,
+                    [this, m] { lbcMode_[static_cast<std::size_t>(m)]->trigger(); });
     const std::pair<QKeySequence, int> fileKeys[] = {
-        {QKeySequence(Qt::CTRL | Qt::Key_N), 0}, {QKeySequence(Qt::CTRL | Qt::Key_O), 1},
-        {QKeySequence(Qt::CTRL | Qt::Key_S), 2}, {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), 3}};
+        {QKeySequence(Qt::CTRL | Qt::Key_N), 0},
+        {QKeySequence(Qt::CTRL | Qt::Key_O), 1},
+        {QKeySequence(Qt::CTRL | Qt::Key_S), 2},
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), 3}};
     for (const auto& [key, option] : fileKeys)
         addShortcut(key, [this, option = option] { runFileOption(game_, option); });
-    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] {
-        findChild<ButtonLabel*>(QStringLiteral("lbcClose"))->trigger();
-    });
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q),
+                [this] { findChild<ButtonLabel*>(QStringLiteral("lbcClose"))->trigger(); });
     addShortcut(Qt::Key_F1, [this] { lbcMenu_[1]->trigger(); });
 }
 
@@ -380,7 +396,9 @@ void frmMain::clickMenu(int index) {
     }
 }
 
-void frmMain::runDay() { game_.clockTick(); }
+void frmMain::runDay() {
+    game_.clockTick();
+}
 
 void frmMain::showMode(int mode) {
     ChildFrame* child = modeScreen(mode);
@@ -438,13 +456,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmMain::savePosition() {
-    game_.settings().set("other", "mainposition",
-                         std::to_string(x()) + "," + std::to_string(y()));
+    game_.settings().set("other", "mainposition", std::to_string(x()) + "," + std::to_string(y()));
 }
 
 void frmMain::restorePosition() {
-    const QString saved =
-        QString::fromStdString(game_.settings().get("other", "mainposition", ""));
+    const QString saved = QString::fromStdString(game_.settings().get("other", "mainposition", ""));
     const QStringList parts = saved.split(QLatin1Char(','));
     if (parts.size() == 2) {
         bool okX = false, okY = false;
@@ -478,11 +494,10 @@ void frmMain::refreshAll() {
 
 void frmMain::paintFinances() {
     const MoneySummary s = moneySummary(game_);
-    const std::string* values[] = {&s.income,      &s.spent,          &s.profit,
-                                   &s.funds,       &s.ticketSales,    &s.arcadeSales,
-                                   &s.concessionSales, &s.depPromo,   &s.depLabor,
-                                   &s.depMovie,    &s.depArcades,     &s.depConcessions,
-                                   &s.depLoan};
+    const std::string* values[] = {
+        &s.income,      &s.spent,           &s.profit,   &s.funds,    &s.ticketSales,
+        &s.arcadeSales, &s.concessionSales, &s.depPromo, &s.depLabor, &s.depMovie,
+        &s.depArcades,  &s.depConcessions,  &s.depLoan};
     for (std::size_t i = 0; i < money_.size(); ++i)
         money_[i]->setText(QString::fromStdString(*values[i]));
 }
@@ -510,7 +525,9 @@ void frmMain::paintMonthLabels() {
         look::paint(lblHistory_[m], fromBgr(labels[m].colour), look::ink);
 }
 
-void frmMain::paintYear() { lblYears_->setText(QString::fromStdString(yearText(game_))); }
+void frmMain::paintYear() {
+    lblYears_->setText(QString::fromStdString(yearText(game_)));
+}
 
 // The running speed's picture stands raised, the others flat; the clock follows the speed.
 void frmMain::paintSpeed() {
@@ -532,7 +549,8 @@ void frmMain::paintSpeed() {
 void frmMain::paintRating() {
     const ratingManager& rating = game_.rating;
     lblRatingCaption_->setText(QString::fromStdString(ratingCaption(rating)));
-    lblRatingBar_->resize(ratingBarWidth(rating, lblRatingBack_->width()), lblRatingBack_->height());
+    lblRatingBar_->resize(ratingBarWidth(rating, lblRatingBack_->width()),
+                          lblRatingBack_->height());
     const auto& bars = rating.bars();
     for (std::size_t m = 0; m < 12; ++m) {
         QLabel* bar = lblHistoryBar_[m];

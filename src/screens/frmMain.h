@@ -26,7 +26,7 @@ class QtScreen;
 // click to one game operation; the clock (tmrGo) is its timer.
 class frmMain : public QWidget {
     Q_OBJECT
-public:
+  public:
     frmMain(Game& game, QtScreen& screen, QWidget* parent = nullptr);
 
     // The eight mode screens, by mode number (created by the caller, glued by start-up).
@@ -52,10 +52,10 @@ public:
     std::function<void()> onShowLog;
     std::function<void()> onSettingsMenu;
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void build();
     void buildCalendar();
     void buildRating();

@@ -1,10 +1,10 @@
 #include "frmMenuFile.h"
 
-#include "session/Game.h"
-#include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frame/Look.h"
 #include "frame/Twips.h"
+#include "session/Game.h"
+#include "session/TitleScreen.h"
 
 #include <QKeyEvent>
 #include <QLabel>

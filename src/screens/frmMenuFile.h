@@ -18,7 +18,7 @@ class ButtonLabel;
 // whatever came of it.
 class frmMenuFile : public QDialog {
     Q_OBJECT
-public:
+  public:
     explicit frmMenuFile(Game& game, QWidget* parent = nullptr);
 
     // Placed below the menu bar of the main screen whose top left is given, then shown
@@ -29,11 +29,11 @@ public:
 
     ButtonLabel* option(int index) const { return options_.at(static_cast<std::size_t>(index)); }
 
-protected:
+  protected:
     // Up and Down walk the options; Space or Enter on one chooses it; Esc closes the menu.
     void keyPressEvent(QKeyEvent* e) override;
 
-private:
+  private:
     Game& game_;
     QLabel* label1_;
     std::array<ButtonLabel*, 6> options_{};

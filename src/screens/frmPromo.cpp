@@ -6,8 +6,8 @@
 #include "frame/Picture.h"
 #include "frame/Twips.h"
 #include "ports/QtScreen.h"
-#include "reputation/promoManager.h"
 #include "reputation/ReputationTexts.h"
+#include "reputation/promoManager.h"
 #include "session/Game.h"
 
 #include <QFrame>

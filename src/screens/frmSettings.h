@@ -20,7 +20,7 @@ class Screenshots;
 // window only hides it.
 class frmSettings : public QWidget {
     Q_OBJECT
-public:
+  public:
     explicit frmSettings(Game& game, QWidget* parent = nullptr);
 
     // The Settings entry of the main screen's menu.
@@ -31,10 +31,10 @@ public:
     void attach(QtScreen& screen);
     void addScreenshots(Screenshots& shots);
 
-protected:
+  protected:
     void closeEvent(QCloseEvent* e) override;
 
-private:
+  private:
     Game& game_;
     std::array<QCheckBox*, 4> boxes_{};
 };

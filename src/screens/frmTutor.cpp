@@ -169,7 +169,9 @@ void frmTutor::mouseMoveEvent(QMouseEvent* e) {
     move(x() + qRound(by.x()), y() + qRound(by.y()));
 }
 
-void frmTutor::mouseReleaseEvent(QMouseEvent*) { dragging_ = false; }
+void frmTutor::mouseReleaseEvent(QMouseEvent*) {
+    dragging_ = false;
+}
 
 bool frmTutor::eventFilter(QObject* watched, QEvent* event) {
     if (watched != lbcClose_)

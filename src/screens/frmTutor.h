@@ -20,7 +20,7 @@ class Screenshots;
 // says, is the logic's: this panel follows the advisor view.
 class frmTutor : public QWidget {
     Q_OBJECT
-public:
+  public:
     explicit frmTutor(Game& game, QWidget* parent = nullptr);
 
     // Shows or hides the panel and puts the step's text in lblTalk, as the logic holds them.
@@ -29,14 +29,14 @@ public:
     void attach(QtScreen& screen);
     void addScreenshots(Screenshots& shots);
 
-protected:
+  protected:
     void paintEvent(QPaintEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void placeFirstTime();
 
     Game& game_;

@@ -1,17 +1,16 @@
 #include "session/Game.h"
 
 #include "core/GameError.h"
-#include "session/TitleScreen.h"
 #include "core/Text.h"
+#include "session/TitleScreen.h"
 
 namespace zorvane {
 
 Game::Game(GameSetup setup)
     : rng(setup.seed), calendar(*this), finances(*this), building(*this), employees(*this),
-      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this),
-      loans(*this), graph(*this), goals(*this), files(*this), settingsBoxes(*this),
-      soundBoard(*this), tutor(*this), setup_(std::move(setup)),
-      screen_(setup_.screen ? setup_.screen : &nullScreen_),
+      movies(*this), concessions(*this), arcades(*this), promos(*this), rating(*this), loans(*this),
+      graph(*this), goals(*this), files(*this), settingsBoxes(*this), soundBoard(*this),
+      tutor(*this), setup_(std::move(setup)), screen_(setup_.screen ? setup_.screen : &nullScreen_),
       dialogs_(setup_.dialogs ? setup_.dialogs : &nullDialogs_),
       settings_(setup_.settings ? setup_.settings : &memorySettings_),
       sound_(setup_.sound ? setup_.sound : &nullSound_) {}

@@ -77,7 +77,6 @@ class Game {
     void reloadMath();
     [[noreturn]] void endProcess(const std::string& why);
 
-
     // The speed of the clock: 0 pause, 1 to 3 slow to fast; -1 stops and remembers the
     // speed, -2 returns to the remembered speed.
     void setSpeed(int newSpeed);
@@ -116,11 +115,11 @@ class Game {
     std::string logBox; // the main log box's text
     Int16 speed;
     Int16 lastSpeed;
-    int loseShown = 0;            // how many times the lost-game picture was asked for
-    int goalShown = 0;            // how many times the goal-reached picture was asked for
-    bool playing = false;         // "Play !" was pressed at least once
-    bool expanded = false;        // the money summary's details are open
-    Int16 currentMode;            // the mode shown last
+    int loseShown = 0;     // how many times the lost-game picture was asked for
+    int goalShown = 0;     // how many times the goal-reached picture was asked for
+    bool playing = false;  // "Play !" was pressed at least once
+    bool expanded = false; // the money summary's details are open
+    Int16 currentMode;     // the mode shown last
     // Each mode's screen colour and mode button colour (0xBBGGRR), from formcolor0 to 7.
     std::array<std::int32_t, 8> formColours{};
 

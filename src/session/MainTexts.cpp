@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

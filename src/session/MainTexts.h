@@ -15,17 +15,17 @@ class Game;
 
 // --- the money summary ---
 struct MoneySummary {
-    std::string income, spent, profit, funds;                // formatMoney
-    std::string ticketSales, arcadeSales, concessionSales;   // formatMoneyShort
+    std::string income, spent, profit, funds;              // formatMoney
+    std::string ticketSales, arcadeSales, concessionSales; // formatMoneyShort
     std::string depPromo, depLabor, depMovie, depArcades, depConcessions, depLoan;
 };
 MoneySummary moneySummary(const Game& game);
 
 // --- the week: seven day labels and the next-day button below the current one ---
 namespace mainLayout {
-inline constexpr int dayTop = 780;         // the day labels hang from here
+inline constexpr int dayTop = 780; // the day labels hang from here
 inline constexpr int dayFirstLeft = 180;
-inline constexpr int dayPitch = 510;       // left of one day label to the next
+inline constexpr int dayPitch = 510; // left of one day label to the next
 inline constexpr int dayWidth = 465;
 inline constexpr int currentDayHeight = 375;
 inline constexpr int otherDayHeight = 255;
@@ -47,8 +47,8 @@ struct DayBar {
 };
 struct DayBars {
     std::array<DayBar, 7> days;
-    int currentDay = 0;       // the day drawn tall
-    int nextDayLeft = 0;      // lbcNextDay stands under the current day
+    int currentDay = 0;         // the day drawn tall
+    int nextDayLeft = 0;        // lbcNextDay stands under the current day
     std::string nextDayCaption; // ">" once per week of the month so far
 };
 DayBars dayBars(const Game& game);
@@ -83,8 +83,8 @@ inline constexpr std::array<const char*, 4> speedTips{"Pause", "Slow", "Medium",
 inline constexpr std::array<const char*, 8> modeCaptions{
     "Promos", "Employees", "Movies", "Arcade", "Concessions", "Loans", "Graph", "Building"};
 // The child screens, by mode number.
-inline constexpr std::array<const char*, 8> modeScreens{
-    "frmPromo", "frmEmployees", "frmMovies", "frmArcade",
-    "frmConcessions", "frmLoans", "frmGraphs", "frmBuilding"};
+inline constexpr std::array<const char*, 8> modeScreens{"frmPromo",  "frmEmployees",   "frmMovies",
+                                                        "frmArcade", "frmConcessions", "frmLoans",
+                                                        "frmGraphs", "frmBuilding"};
 
 } // namespace zorvane

@@ -1,7 +1,7 @@
 #include "settings/SettingsBoxes.h"
 
-#include "session/Game.h"
 #include "core/Numbers.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

@@ -1,8 +1,8 @@
 #include "settings/SoundBoard.h"
 
-#include "session/Game.h"
 #include "core/GameError.h"
 #include "core/SoundPort.h"
+#include "session/Game.h"
 
 namespace zorvane {
 

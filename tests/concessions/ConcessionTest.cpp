@@ -189,8 +189,8 @@ TEST(ConcessionOrderText, LeadingNumberRoundedHalfToEven) {
     const struct {
         const char* typed;
         int units;
-    } cases[] = {{"12", 12}, {"  2.5", 2}, {"3.5 boxes", 4}, {"-7", -7}, {"-2.5", -2},
-                 {"1,000", 1}, {"$40", 0}, {"", 0}, {"32767", 32767}};
+    } cases[] = {{"12", 12},   {"  2.5", 2}, {"3.5 boxes", 4}, {"-7", -7},      {"-2.5", -2},
+                 {"1,000", 1}, {"$40", 0},   {"", 0},          {"32767", 32767}};
     for (const auto& c : cases)
         EXPECT_EQ(concessionOrderOf(c.typed), c.units) << c.typed;
     EXPECT_THROW(concessionOrderOf("32768"), GameError);

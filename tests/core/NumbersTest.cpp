@@ -1,5 +1,5 @@
-#include "core/GameError.h"
 #include "core/Numbers.h"
+#include "core/GameError.h"
 #include "core/Random.h"
 
 #include <gtest/gtest.h>
@@ -95,8 +95,8 @@ TEST(Random, PercentRollIsOneToHundredAndDrivable) {
 TEST(Random, ASeedGivesTheSameDrawsWithAnyCompiler) {
     // Pinned: a change to the engine or its seeding would replay no seed as before.
     Random a(20261123);
-    for (const double expected : {0x1.c718d0f4346c3p-1, 0x1.8a93bd2c8bff6p-1,
-                                  0x1.8333b1e56f3bfp-1, 0x1.800f717056808p-3})
+    for (const double expected :
+         {0x1.c718d0f4346c3p-1, 0x1.8a93bd2c8bff6p-1, 0x1.8333b1e56f3bfp-1, 0x1.800f717056808p-3})
         EXPECT_EQ(a.next(), expected);
     EXPECT_EQ(a.draws(), 4u);
     EXPECT_EQ(Random(0).next(), 0x1.b558c1c3dad49p-1);

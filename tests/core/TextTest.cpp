@@ -1,5 +1,5 @@
-#include "core/GameError.h"
 #include "core/Text.h"
+#include "core/GameError.h"
 
 #include <gtest/gtest.h>
 

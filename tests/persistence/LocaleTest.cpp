@@ -49,10 +49,10 @@ Written playUnder(locale_t locale) {
         return s;
     };
     const auto played = session(7);
-    for (const char* line : {"hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1",
-                             "hire 1", "hire 1", "buymovie 1", "show 1 5 6 7", "ticket 0 $6.25",
-                             "price 0 3.75", "buygame 1", "promo add 2", "loan 15000 18",
-                             "day 30", "state"})
+    for (const char* line :
+         {"hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1",
+          "buymovie 1", "show 1 5 6 7", "ticket 0 $6.25", "price 0 3.75", "buygame 1",
+          "promo add 2", "loan 15000 18", "day 30", "state"})
         played->runLine(line, 0);
     w.state = out.str();
     const std::string first = data.file("first.zvn"), second = data.file("second.zvn");

@@ -1,9 +1,7 @@
 // The screens around the game, offscreen: the title screen, the file menu, the log window,
 // the two end pictures and the help window, as a player would notice them going wrong.
 #include "HelpWindow.h"
-#include "session/Game.h"
 #include "core/GameError.h"
-#include "session/TitleScreen.h"
 #include "frame/ButtonLabel.h"
 #include "frmGoal.h"
 #include "frmLoader.h"
@@ -11,6 +9,8 @@
 #include "frmLose.h"
 #include "frmMenuFile.h"
 #include "ports/QtScreen.h"
+#include "session/Game.h"
+#include "session/TitleScreen.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -58,14 +58,16 @@ struct TitleGame {
     QString status() { return control<QPlainTextEdit>("txtStatus")->toPlainText(); }
 };
 
-QString lastLine(const QString& text) { return text.section(QLatin1Char('\n'), -1); }
+QString lastLine(const QString& text) {
+    return text.section(QLatin1Char('\n'), -1);
+}
 
 } // namespace
 
 class AroundScreensTest : public QObject {
     Q_OBJECT
 
-private slots:
+  private slots:
     void playWithNoSelectionPlaysFreePlayAndExitThenOnlyHides() {
         TitleGame t;
         const QString status = t.status();
@@ -115,8 +117,9 @@ private slots:
     void logWindowKeepsWhatTheLogBoxDrops() {
         TitleGame t;
         frmLog log(*t.game);
-        t.screen.onLogLine.push_back(
-            [&log](const std::string& line, bool) { log.appendLine(QString::fromStdString(line)); });
+        t.screen.onLogLine.push_back([&log](const std::string& line, bool) {
+            log.appendLine(QString::fromStdString(line));
+        });
         log.show();
         QCOMPARE(log.box()->toPlainText(),
                  QString::fromStdString(t.game->logBox).replace("\r\n", "\n"));
@@ -127,7 +130,7 @@ private slots:
             t.game->gameLog(line, 0);
         t.game->gameLog("the last straw", 0);
         QCOMPARE(t.game->logBox, std::string("\r\nthe last straw")); // the log box was emptied
-        QCOMPARE(log.box()->blockCount(), before + written + 1);    // the window kept it all
+        QCOMPARE(log.box()->blockCount(), before + written + 1);     // the window kept it all
         QCOMPARE(lastLine(log.box()->toPlainText()), QString("the last straw"));
         QCOMPARE(log.box()->textCursor().position(), log.box()->document()->characterCount() - 1);
 
@@ -144,8 +147,8 @@ private slots:
         QStringList captions;
         for (int i = 0; i < fileOptionCount; ++i)
             captions << menu.option(i)->text();
-        QCOMPARE(captions, QStringList({"New Theater", "Open Theater", "Save Theater",
-                                        "Save As...", "Quit Game", "Reload math"}));
+        QCOMPARE(captions, QStringList({"New Theater", "Open Theater", "Save Theater", "Save As...",
+                                        "Quit Game", "Reload math"}));
         t.game->savedPath = "/somewhere/old.zvn";
         menu.show();
         // A right click only restores the look.
@@ -188,8 +191,9 @@ private slots:
 
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("# Zorvane\n\nIntro.\n\n## The title screen\n\nText.\n\n```\n# not a heading\n```\n"
-                   "\n## Goals\n\nMore.\n");
+        file.write(
+            "# Zorvane\n\nIntro.\n\n## The title screen\n\nText.\n\n```\n# not a heading\n```\n"
+            "\n## Goals\n\nMore.\n");
         file.close();
         HelpWindow help(path);
         help.showContents();

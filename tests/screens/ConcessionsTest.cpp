@@ -25,9 +25,12 @@ class ConcessionsTest : public QObject {
     ChildFrame* screen = nullptr;
 
     QLineEdit* box(const char* name, int item) {
-        return PlayingWindow::control<QLineEdit>(screen, QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(item));
+        return PlayingWindow::control<QLineEdit>(
+            screen, QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(item));
     }
-    QString shown(const QString& name) { return PlayingWindow::control<QLabel>(screen, name)->text(); }
+    QString shown(const QString& name) {
+        return PlayingWindow::control<QLabel>(screen, name)->text();
+    }
     Concession& item(int i) { return p->game().concessions.item(i); }
 
     // Every row and total on both tabs says what the stand's texts say.
@@ -37,29 +40,38 @@ class ConcessionsTest : public QObject {
             const ConcessionListing l = concessionListing(stand.item(i), p->game().folder());
             const ConcessionStockRow s = concessionStockRow(stand.item(i));
             const std::pair<QString, std::string> labels[] = {
-                {QStringLiteral("lblMyCost_%1"), l.yourCost},       {QStringLiteral("lblSold_%1"), l.soldToday},
-                {QStringLiteral("lblProfit_%1"), l.profit},         {QStringLiteral("lblInStock_%1"), s.inStock},
+                {QStringLiteral("lblMyCost_%1"), l.yourCost},
+                {QStringLiteral("lblSold_%1"), l.soldToday},
+                {QStringLiteral("lblProfit_%1"), l.profit},
+                {QStringLiteral("lblInStock_%1"), s.inStock},
                 {QStringLiteral("lblLastMonthSales_%1"), s.lastMonthSales},
-                {QStringLiteral("lblCostPerItem_%1"), s.costPerItem}, {QStringLiteral("lblTotalCost_%1"), s.totalCost}};
+                {QStringLiteral("lblCostPerItem_%1"), s.costPerItem},
+                {QStringLiteral("lblTotalCost_%1"), s.totalCost}};
             for (const auto& [name, text] : labels)
                 QCOMPARE(shown(name.arg(i)), QString::fromStdString(text));
-            auto* picture = PlayingWindow::control<QLabel>(screen, QStringLiteral("imgConcession_%1").arg(i));
+            auto* picture =
+                PlayingWindow::control<QLabel>(screen, QStringLiteral("imgConcession_%1").arg(i));
             QCOMPARE(picture->toolTip(), QString::fromStdString(l.tip));
             QVERIFY(!picture->pixmap().isNull());
             QCOMPARE(box("txtPrice", i)->text(), QString::fromStdString(l.price));
             QCOMPARE(box("txtBuyPerMonth", i)->text(), QString::fromStdString(s.buyPerMonth));
-            QCOMPARE(PlayingWindow::control<QComboBox>(screen, QStringLiteral("cmbQuality_%1").arg(i))->currentIndex(),
-                     l.qualityIndex);
+            QCOMPARE(
+                PlayingWindow::control<QComboBox>(screen, QStringLiteral("cmbQuality_%1").arg(i))
+                    ->currentIndex(),
+                l.qualityIndex);
         }
         const ConcessionTotals t = concessionTotals(stand);
         const std::pair<const char*, std::string> totals[] = {
-            {"lblTotalMyCost", t.totalMyCost}, {"lblTotalSold", t.totalSold}, {"lblTotalProfit", t.totalProfit},
-            {"lblTotalTotalCost", t.totalTotalCost}, {"lblTotalIncomeLastMonth", t.incomeLastMonth}};
+            {"lblTotalMyCost", t.totalMyCost},
+            {"lblTotalSold", t.totalSold},
+            {"lblTotalProfit", t.totalProfit},
+            {"lblTotalTotalCost", t.totalTotalCost},
+            {"lblTotalIncomeLastMonth", t.incomeLastMonth}};
         for (const auto& [name, text] : totals)
             QCOMPARE(shown(QLatin1String(name)), QString::fromStdString(text));
     }
 
-private slots:
+  private slots:
     void init() {
         p = std::make_unique<PlayingWindow>();
         p->game().tutor.endTutor(); // the advisor's panel would take the focus offscreen
@@ -92,7 +104,8 @@ private slots:
         const double now = price > 0 ? price : old;
         QCOMPARE(item(2).price, now);
         QApplication::processEvents();
-        QCOMPARE(txt->text(), QString::fromStdString(concessionListing(item(2), p->game().folder()).price));
+        QCOMPARE(txt->text(),
+                 QString::fromStdString(concessionListing(item(2), p->game().folder()).price));
         QCOMPARE(txt->text(), QString::fromStdString(formatMoney(now)));
     }
 
@@ -118,7 +131,8 @@ private slots:
         QCOMPARE(int(item(1).buypermonth), units);
         QApplication::processEvents();
         QCOMPARE(txt->text(), QString::number(units));
-        QCOMPARE(shown(QStringLiteral("lblTotalCost_1")), QString::fromStdString(formatMoney(units * item(1).cost)));
+        QCOMPARE(shown(QStringLiteral("lblTotalCost_1")),
+                 QString::fromStdString(formatMoney(units * item(1).cost)));
     }
 
     // A click into an order box selects its whole text (after the click placed the cursor); a
@@ -159,9 +173,11 @@ private slots:
         QCOMPARE(p->clicks(), clicks + 1);
         QApplication::processEvents();
         QCOMPARE(quality->currentIndex(), 2);
-        QCOMPARE(shown(QStringLiteral("lblMyCost_4")), QString::fromStdString(formatMoney(item(4).getUnitCost())));
+        QCOMPARE(shown(QStringLiteral("lblMyCost_4")),
+                 QString::fromStdString(formatMoney(item(4).getUnitCost())));
 
-        QTabBar* bar = PlayingWindow::control<QTabWidget>(screen, QStringLiteral("SSTab1"))->tabBar();
+        QTabBar* bar =
+            PlayingWindow::control<QTabWidget>(screen, QStringLiteral("SSTab1"))->tabBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
         QCOMPARE(bar->currentIndex(), 1);
         QCOMPARE(p->clicks(), clicks + 2);

@@ -18,7 +18,8 @@ namespace {
 void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button) {
     const QPointF at(3, 3);
     QMouseEvent e(type, at, w->mapToGlobal(at), button,
-                  type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button), Qt::NoModifier);
+                  type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button),
+                  Qt::NoModifier);
     QApplication::sendEvent(w, &e);
 }
 } // namespace
@@ -28,7 +29,7 @@ class GraphBuildingTest : public QObject {
 
     std::unique_ptr<PlayingWindow> p;
 
-private slots:
+  private slots:
     void init() { p = std::make_unique<PlayingWindow>(); }
     void cleanup() { p.reset(); }
 
@@ -55,7 +56,8 @@ private slots:
         mouse(month, QEvent::MouseButtonRelease, Qt::LeftButton);
         QCOMPARE(month->frameShape(), QFrame::NoFrame);
         QCOMPARE(p->dialogs.asked.size(), std::size_t(1));
-        QVERIFY(QString::fromStdString(p->dialogs.asked[0]).startsWith(QStringLiteral("Funds for the month of ") + month->text()));
+        QVERIFY(QString::fromStdString(p->dialogs.asked[0])
+                    .startsWith(QStringLiteral("Funds for the month of ") + month->text()));
         QCOMPARE(p->clicks(), clicks);
     }
 

@@ -2,11 +2,11 @@
 // going wrong when dragging, gluing, pausing, clicking and quitting.
 #include "PlayingWindow.h"
 #include "core/GameError.h"
-#include "session/MainTexts.h"
 #include "frame/ButtonLabel.h"
 #include "frame/ChildFrame.h"
 #include "frame/Twips.h"
 #include "frmMain.h"
+#include "session/MainTexts.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -65,7 +65,7 @@ class MainScreenTest : public QObject {
         QCOMPARE(child->width(), main().width());
     }
 
-private slots:
+  private slots:
     void init() {
         processEnded = 0;
         static_cast<GameApplication*>(qApp)->onProcessEnded = [this] { ++processEnded; };
@@ -133,7 +133,9 @@ private slots:
     void speedStopAndResume() {
         Game& game = w->game();
         QTimer* clock = main().clock();
-        auto raised = [this](int i) { return main().speedImage(i)->frameShadow() == QFrame::Raised; };
+        auto raised = [this](int i) {
+            return main().speedImage(i)->frameShadow() == QFrame::Raised;
+        };
 
         QTest::mouseClick(main().speedImage(2), Qt::LeftButton);
         flush();
@@ -198,7 +200,8 @@ private slots:
         QCOMPARE(int(game.calendar.currentday), (day + 2) % 7);
         QCOMPARE(clicks(), 4);
         flush();
-        QCOMPARE(control("lbcNextDay")->x(), control(qPrintable(QStringLiteral("lblDay_%1").arg((day + 2) % 7)))->x());
+        QCOMPARE(control("lbcNextDay")->x(),
+                 control(qPrintable(QStringLiteral("lblDay_%1").arg((day + 2) % 7)))->x());
         // A key does what the click does, sound included.
         QTest::keyClick(&main(), Qt::Key_F9);
         QCOMPARE(game.currentMode, 7);
@@ -214,13 +217,19 @@ private slots:
         QTest::addColumn<bool>("starts");
         const QString quit = "Save your theater before quitting?";
         // Yes asks for a file; the cancelled dialog lets the game go on.
-        QTest::newRow("quit, cancel") << false << "" << int(Answer::Cancel) << quit << false << false;
+        QTest::newRow("quit, cancel")
+            << false << "" << int(Answer::Cancel) << quit << false << false;
         QTest::newRow("quit, no") << false << "" << int(Answer::No) << quit << true << false;
-        QTest::newRow("quit, yes, dialog cancelled") << false << "" << int(Answer::Yes) << quit << false << false;
-        QTest::newRow("new, unsaved, no") << true << "" << int(Answer::No) << "Unsaved game, proceed?" << false << false;
-        QTest::newRow("new, unsaved, yes") << true << "" << int(Answer::Yes) << "Unsaved game, proceed?" << true << true;
-        QTest::newRow("new, saved, cancel") << true << "x.zvn" << int(Answer::Cancel) << "Save first?" << false << false;
-        QTest::newRow("new, saved, no") << true << "x.zvn" << int(Answer::No) << "Save first?" << true << true;
+        QTest::newRow("quit, yes, dialog cancelled")
+            << false << "" << int(Answer::Yes) << quit << false << false;
+        QTest::newRow("new, unsaved, no")
+            << true << "" << int(Answer::No) << "Unsaved game, proceed?" << false << false;
+        QTest::newRow("new, unsaved, yes")
+            << true << "" << int(Answer::Yes) << "Unsaved game, proceed?" << true << true;
+        QTest::newRow("new, saved, cancel")
+            << true << "x.zvn" << int(Answer::Cancel) << "Save first?" << false << false;
+        QTest::newRow("new, saved, no")
+            << true << "x.zvn" << int(Answer::No) << "Save first?" << true << true;
     }
     void quitAndNewGameQuestions() {
         QFETCH(bool, newGame);
@@ -240,7 +249,8 @@ private slots:
         QCOMPARE(processEnded, ends ? 1 : 0);
         QCOMPARE(p->dialogs.started.size(), std::size_t(starts ? 1 : 0));
         if (starts)
-            QCOMPARE(QString::fromStdString(p->dialogs.started[0]), QStringLiteral("\"/opt/zorvane/zorvane\""));
+            QCOMPARE(QString::fromStdString(p->dialogs.started[0]),
+                     QStringLiteral("\"/opt/zorvane/zorvane\""));
     }
 
     void savedGameQuitsWithoutAQuestion() {

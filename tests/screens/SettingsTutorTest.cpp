@@ -18,7 +18,8 @@ using namespace zorvane::screens;
 
 namespace {
 void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPoint at) {
-    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
+    const Qt::MouseButtons held =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
     QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
     QApplication::sendEvent(w, &e);
 }
@@ -30,11 +31,18 @@ class SettingsTutorTest : public QObject {
     std::unique_ptr<PlayingWindow> p;
 
     void flush() { p->w->screen().flush(); }
-    std::string stored(const char* section, const char* key) { return p->settings.get(section, key, "missing"); }
-    QString talk() { return PlayingWindow::control<QLabel>(&p->w->tutorWindow(), QStringLiteral("lblTalk"))->text(); }
-    QString stepText(int step) { return QString::fromStdString(labelText(tutorText(step, p->game()))); }
+    std::string stored(const char* section, const char* key) {
+        return p->settings.get(section, key, "missing");
+    }
+    QString talk() {
+        return PlayingWindow::control<QLabel>(&p->w->tutorWindow(), QStringLiteral("lblTalk"))
+            ->text();
+    }
+    QString stepText(int step) {
+        return QString::fromStdString(labelText(tutorText(step, p->game())));
+    }
 
-private slots:
+  private slots:
     void init() { p = std::make_unique<PlayingWindow>(); }
     void cleanup() { p.reset(); }
 
@@ -44,7 +52,8 @@ private slots:
     void boxesWriteTheStore() {
         Game& game = p->game();
         QWidget* settings = &p->w->settingsWindow();
-        ButtonLabel* menu = PlayingWindow::control<ButtonLabel>(&p->w->main(), QStringLiteral("lbcMenu_3"));
+        ButtonLabel* menu =
+            PlayingWindow::control<ButtonLabel>(&p->w->main(), QStringLiteral("lbcMenu_3"));
         const long clicks = p->clicks();
         QVERIFY(clicks >= 0);
         QTest::mouseClick(menu, Qt::LeftButton);
@@ -52,8 +61,12 @@ private slots:
         QCOMPARE(p->clicks(), clicks + 1);
         QVERIFY(p->sound.playing[SoundPort::musicPlayer]);
 
-        struct Row { const char* box; const char* key; };
-        for (const Row& r : {Row{"chkSound", "effects"}, Row{"chkMusic", "music"}, Row{"chkClick", "click"}}) {
+        struct Row {
+            const char* box;
+            const char* key;
+        };
+        for (const Row& r :
+             {Row{"chkSound", "effects"}, Row{"chkMusic", "music"}, Row{"chkClick", "click"}}) {
             auto* box = PlayingWindow::control<QCheckBox>(settings, QString::fromLatin1(r.box));
             QVERIFY2(box->isChecked(), r.box);
             box->click();
@@ -77,7 +90,8 @@ private slots:
         // A box the logic sets shows on the screen.
         game.settingsBoxes.setBox(SettingsBox::Sound, 1);
         flush();
-        QVERIFY(PlayingWindow::control<QCheckBox>(settings, QStringLiteral("chkSound"))->isChecked());
+        QVERIFY(
+            PlayingWindow::control<QCheckBox>(settings, QStringLiteral("chkSound"))->isChecked());
 
         QVERIFY(settings->close() == false);
         QVERIFY(!settings->isVisible());
@@ -96,8 +110,10 @@ private slots:
         const long clicks = p->clicks();
         auto* next = PlayingWindow::control<ButtonLabel>(panel, QStringLiteral("lbcNext"));
         auto* prev = PlayingWindow::control<ButtonLabel>(panel, QStringLiteral("lbcPrev"));
-        const struct { ButtonLabel* arrow; int step; } walk[] = {
-            {next, 2}, {next, 3}, {prev, 2}, {prev, 1}, {prev, 1}};
+        const struct {
+            ButtonLabel* arrow;
+            int step;
+        } walk[] = {{next, 2}, {next, 3}, {prev, 2}, {prev, 1}, {prev, 1}};
         for (const auto& w : walk) {
             QTest::mouseClick(w.arrow, Qt::LeftButton);
             flush();

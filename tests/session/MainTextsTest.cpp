@@ -1,7 +1,7 @@
-#include "session/Game.h"
-#include "core/GameError.h"
 #include "session/MainTexts.h"
+#include "core/GameError.h"
 #include "core/Text.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ TEST_F(MainScreenFixture, ExpandTogglesOrSetsTheDetailsAndTheHeightsFollow) {
         bool expanded;
     };
     // Starting closed: each text in turn, and the state it leaves.
-    const Step steps[] = {{"", true}, {"", false}, {"TRUE", true}, {"maybe", true},
+    const Step steps[] = {{"", true},     {"", false},      {"TRUE", true}, {"maybe", true},
                           {"true", true}, {"False", false}, {"yes", false}};
     for (const Step& step : steps) {
         game->expand(step.text);

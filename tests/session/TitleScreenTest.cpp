@@ -1,6 +1,6 @@
-#include "session/Game.h"
-#include "core/GameError.h"
 #include "session/TitleScreen.h"
+#include "core/GameError.h"
+#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>

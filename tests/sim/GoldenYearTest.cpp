@@ -26,10 +26,10 @@ namespace {
 // The theater of both tests: a staff in all seven posts, two movies on seven showtimes, a
 // snack order, one arcade machine, a newspaper promotion and a loan.
 const std::vector<std::string> opening = {
-    "hire 1",       "hire 1",       "hire 1",      "hire 1",      "hire 3",    "hire 3",
-    "hire 4",       "assign 5 2",   "assign 6 6",  "assign 7 5",  "buymovie 1", "buymovie 2",
-    "show 1 6 7 8", "show 2 3 4 5", "stock 0 900", "stock 1 900", "buygame 1", "promo add 0",
-    "loan 20000 24"};
+    "hire 1",      "hire 1",     "hire 1",       "hire 1",       "hire 3",
+    "hire 3",      "hire 4",     "assign 5 2",   "assign 6 6",   "assign 7 5",
+    "buymovie 1",  "buymovie 2", "show 1 6 7 8", "show 2 3 4 5", "stock 0 900",
+    "stock 1 900", "buygame 1",  "promo add 0",  "loan 20000 24"};
 
 // Seed 2026; goal 5 ("Family Heirloom") starts the theater with more money, so that it
 // does business for most of the year before the wages eat it up.
@@ -70,8 +70,8 @@ TEST(GoldenYear, ASeededYearEndsInThePinnedState) {
     const nlohmann::json state = nlohmann::json::parse(s.out.str());
     ASSERT_EQ(state["calendar"]["currentyear"], 1) << "the script no longer plays a whole year";
 
-    const auto path = std::filesystem::path(shippedData()).parent_path() / "tests" / "sim" /
-                      "golden-year.json";
+    const auto path =
+        std::filesystem::path(shippedData()).parent_path() / "tests" / "sim" / "golden-year.json";
     if (std::getenv("ZORVANE_WRITE_GOLDEN")) {
         std::ofstream(path, std::ios::binary) << state.dump(1) << '\n';
         GTEST_SKIP() << "wrote " << path;

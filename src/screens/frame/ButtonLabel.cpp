@@ -13,7 +13,7 @@ namespace {
 
 // A window's click, held as a child object of the window so it lives and dies with it.
 class ClickRoute : public QObject {
-public:
+  public:
     ClickRoute(QObject* window, std::function<void()> click)
         : QObject(window), click_(std::move(click)) {}
     void play() const {
@@ -21,7 +21,7 @@ public:
             click_();
     }
 
-private:
+  private:
     std::function<void()> click_;
 };
 
@@ -50,8 +50,7 @@ void routeClick(const QObject* from) {
     }
 }
 
-ButtonLabel::ButtonLabel(const QString& name, const QString& caption, QWidget* parent,
-                         Style style)
+ButtonLabel::ButtonLabel(const QString& name, const QString& caption, QWidget* parent, Style style)
     : QLabel(caption, parent), style_(style) {
     setObjectName(name);
     setAccessibleName(caption);
@@ -124,7 +123,7 @@ void ButtonLabel::trigger() {
 namespace {
 
 class ButtonLabelAccessible : public QAccessibleWidget {
-public:
+  public:
     explicit ButtonLabelAccessible(QWidget* w) : QAccessibleWidget(w, QAccessible::Button) {}
     QStringList actionNames() const override { return {pressAction()}; }
     void doAction(const QString& action) override {
@@ -149,6 +148,8 @@ QAccessibleInterface* buttonLabelFactory(const QString& className, QObject* obje
 
 } // namespace
 
-void installButtonLabelAccessibility() { QAccessible::installFactory(buttonLabelFactory); }
+void installButtonLabelAccessibility() {
+    QAccessible::installFactory(buttonLabelFactory);
+}
 
 } // namespace zorvane::screens

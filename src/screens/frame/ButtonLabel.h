@@ -19,7 +19,7 @@ namespace zorvane::screens {
 // The label takes the keyboard focus by Tab; Space or Enter act as a left click.
 class ButtonLabel : public QLabel {
     Q_OBJECT
-public:
+  public:
     enum class Style { Press, Immediate };
 
     ButtonLabel(const QString& name, const QString& caption, QWidget* parent,
@@ -34,15 +34,15 @@ public:
     // What a shortcut key does: exactly the left click (sound and action).
     void trigger();
 
-signals:
+  signals:
     void clicked();
 
-protected:
+  protected:
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
 
-private:
+  private:
     void showPressed(bool pressed);
     void playClick() const;
 

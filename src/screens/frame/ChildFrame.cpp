@@ -48,7 +48,9 @@ ChildFrame::ChildFrame(Game& game, int mode, const QString& name, const QString&
     resize(px(9600), px(defaultHeight));
 }
 
-void ChildFrame::setFormColour(std::uint32_t bgr) { look::paint(this, fromBgr(bgr), look::ink); }
+void ChildFrame::setFormColour(std::uint32_t bgr) {
+    look::paint(this, fromBgr(bgr), look::ink);
+}
 
 void ChildFrame::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);

@@ -24,9 +24,9 @@ class Screenshots;
 // - The header is the window's width less 150 twips (room for the screen's own corner).
 class ChildFrame : public QWidget {
     Q_OBJECT
-public:
-    ChildFrame(Game& game, int mode, const QString& name, const QString& caption,
-               std::uint32_t bgr, QWidget* parent = nullptr);
+  public:
+    ChildFrame(Game& game, int mode, const QString& name, const QString& caption, std::uint32_t bgr,
+               QWidget* parent = nullptr);
 
     int mode() const { return mode_; }
     void setGlued(bool value) { glued_ = value; }
@@ -46,17 +46,17 @@ public:
     // on goes in with Screenshots::addLast).
     virtual void addScreenshots(Screenshots&) {}
 
-signals:
+  signals:
     // The header was double-clicked: the main screen aligns the screen under itself.
     void reglueRequested();
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
     Game& game_;
 
-private:
+  private:
     int mode_;
     bool glued_ = true;
     bool dragging_ = false;

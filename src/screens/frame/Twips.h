@@ -9,8 +9,12 @@
 namespace zorvane::screens {
 
 constexpr int twipsPerPixel = 15;
-constexpr int px(int twips) { return twips / twipsPerPixel; }
-constexpr int twips(int pixels) { return pixels * twipsPerPixel; }
+constexpr int px(int twips) {
+    return twips / twipsPerPixel;
+}
+constexpr int twips(int pixels) {
+    return pixels * twipsPerPixel;
+}
 inline QRect pxRect(int left, int top, int width, int height) {
     return {px(left), px(top), px(width), px(height)};
 }

@@ -40,9 +40,9 @@ Answer QtDialogs::ask(const std::string& text, Buttons buttons) {
 std::string QtDialogs::input(const std::string& prompt, const std::string& title,
                              const std::string& defaultText) {
     bool ok = false;
-    const QString text = QInputDialog::getText(
-        parent, QString::fromStdString(title), QString::fromStdString(prompt),
-        QLineEdit::Normal, QString::fromStdString(defaultText), &ok);
+    const QString text =
+        QInputDialog::getText(parent, QString::fromStdString(title), QString::fromStdString(prompt),
+                              QLineEdit::Normal, QString::fromStdString(defaultText), &ok);
     return ok ? text.toStdString() : std::string();
 }
 
@@ -56,8 +56,8 @@ QString qtFileFilter(const std::string& filter) {
             description = description.left(paren).trimmed();
         QStringList patterns;
         for (const QString& p : parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-            const QString pattern = p.trimmed() == QLatin1String("*.*") ? QStringLiteral("*")
-                                                                         : p.trimmed();
+            const QString pattern =
+                p.trimmed() == QLatin1String("*.*") ? QStringLiteral("*") : p.trimmed();
             for (const QString& variant : {pattern.toLower(), pattern.toUpper()})
                 if (!patterns.contains(variant))
                     patterns << variant;
@@ -72,10 +72,9 @@ std::string QtDialogs::chooseFile(FileMode mode, const std::string& filter,
                                   const std::string& title) {
     const QString caption = QString::fromStdString(title);
     const QString qtFilter = qtFileFilter(filter);
-    const QString path =
-        mode == FileMode::Open
-            ? QFileDialog::getOpenFileName(parent, caption, QString(), qtFilter)
-            : QFileDialog::getSaveFileName(parent, caption, QString(), qtFilter);
+    const QString path = mode == FileMode::Open
+                             ? QFileDialog::getOpenFileName(parent, caption, QString(), qtFilter)
+                             : QFileDialog::getSaveFileName(parent, caption, QString(), qtFilter);
     return path.toStdString();
 }
 

@@ -12,7 +12,7 @@ namespace zorvane::screens {
 // The game's questions in Qt's own boxes: message boxes, the input box, the file dialog of
 // saved games, the help window, a fresh process for "New Theater", and the end of this one.
 class QtDialogs : public DialogPort {
-public:
+  public:
     Answer ask(const std::string& text, Buttons buttons) override;
     std::string input(const std::string& prompt, const std::string& title,
                       const std::string& defaultText) override;

@@ -18,8 +18,7 @@ namespace zorvane::screens {
 // screen that owns them through the hooks below; a hook that no screen has set does nothing.
 class QtScreen : public QObject, public ScreenPort {
     Q_OBJECT
-public:
-
+  public:
     // How a screen repaints a view. Several screens may paint the same view.
     void addPainter(View view, std::function<void()> paint);
     // Repaints every stale view now, each once. Runs by itself once per pass.
@@ -61,7 +60,7 @@ public:
     std::function<void(const std::string&)> onPreviewCabinet;
     std::function<void(int)> onShowArcadeTab;
 
-private:
+  private:
     template <class F, class... A> static void call(const F& f, A&&... args) {
         if (f)
             f(std::forward<A>(args)...);

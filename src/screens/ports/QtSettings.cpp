@@ -14,8 +14,7 @@ std::string QtSettings::get(const std::string& section, const std::string& key,
     return v.isValid() ? v.toString().toStdString() : defaultValue;
 }
 
-void QtSettings::set(const std::string& section, const std::string& key,
-                     const std::string& value) {
+void QtSettings::set(const std::string& section, const std::string& key, const std::string& value) {
     store_.setValue(storeKey(section, key), QString::fromStdString(value));
     store_.sync();
 }

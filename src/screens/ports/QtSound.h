@@ -24,7 +24,7 @@ namespace zorvane::screens {
 // missing, empty or not a sound leaves its player closed: it stays silent.
 class QtSound : public QObject, public SoundPort {
     Q_OBJECT
-public:
+  public:
     explicit QtSound(QObject* parent = nullptr);
     ~QtSound() override;
 
@@ -41,7 +41,7 @@ public:
     // Makes every opened player now (tests, benchmarks).
     void makeAll();
 
-private:
+  private:
     void scheduleMake();
     void makeNext();
     void make(int player);
