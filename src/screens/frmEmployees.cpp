@@ -18,8 +18,11 @@
 #include <QMouseEvent>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTableView>
 
+#include <algorithm>
 #include <set>
 
 namespace zorvane::screens {
@@ -57,10 +60,12 @@ public:
     }
 
     // Takes the new rows (row 0 the header). Rows are added or taken at the end, so a row
-    // keeps its number whoever stands in it now.
+    // keeps its number whoever stands in it now. Only the cells whose text changed are
+    // repainted: a day changes a few figures of a few people.
     void setRows(std::vector<GridRow> rows) {
         const int before = rowCount();
         const int after = static_cast<int>(rows.size()) - 1;
+        std::vector<GridRow> old = std::move(rows_);
         if (after > before) {
             beginInsertRows({}, before, after - 1);
             rows_ = std::move(rows);
@@ -72,9 +77,22 @@ public:
         } else {
             rows_ = std::move(rows);
         }
-        if (rowCount() > 0)
-            emit dataChanged(index(0, 0), index(rowCount() - 1, 9));
-        emit headerDataChanged(Qt::Horizontal, 0, 9);
+        if (old.empty() || old[0] != rows_[0])
+            emit headerDataChanged(Qt::Horizontal, 0, 9);
+        const int common = std::min(before, after);
+        for (int r = 1; r <= common; ++r) {
+            const GridRow& was = old[static_cast<std::size_t>(r)];
+            const GridRow& now = rows_[static_cast<std::size_t>(r)];
+            int first = -1, last = -1;
+            for (int c = 0; c < 10; ++c)
+                if (was[static_cast<std::size_t>(c)] != now[static_cast<std::size_t>(c)]) {
+                    if (first < 0)
+                        first = c;
+                    last = c;
+                }
+            if (first >= 0)
+                emit dataChanged(index(r - 1, first), index(r - 1, last));
+        }
     }
 
 private:
@@ -82,6 +100,23 @@ private:
 };
 
 namespace {
+
+// A grid cell's text, drawn plainly: the style's own item painting lays every cell's text
+// out anew and costs several times more, and the grid repaints each day.
+class PlainCellDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const bool selected = option.state & QStyle::State_Selected;
+        if (selected)
+            painter->fillRect(option.rect, option.palette.color(QPalette::Highlight));
+        else if (option.features & QStyleOptionViewItem::Alternate)
+            painter->fillRect(option.rect, option.palette.color(QPalette::AlternateBase));
+        painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(option.rect.adjusted(3, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                          index.data(Qt::DisplayRole).toString());
+    }
+};
 
 constexpr int screenHeight = 5700; // twips; the hire table's ten rows need a little more
 constexpr std::uint32_t buttonColour = 0xC0FFC0;
@@ -278,6 +313,7 @@ void frmEmployees::buildStaffTab(QWidget* page) {
     grdEmps_->setObjectName(QStringLiteral("grdEmps"));
     grdEmps_->setAccessibleName(QStringLiteral("Current employees"));
     grdEmps_->setModel(gridModel_);
+    grdEmps_->setItemDelegate(new PlainCellDelegate(grdEmps_));
     grdEmps_->setGeometry(pxRect(60, 50, 9180, 4340));
     grdEmps_->setSelectionBehavior(QAbstractItemView::SelectRows);
     grdEmps_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -287,13 +323,28 @@ void frmEmployees::buildStaffTab(QWidget* page) {
     grdEmps_->verticalHeader()->hide();
     grdEmps_->verticalHeader()->setDefaultSectionSize(px(285));
     grdEmps_->horizontalHeader()->setHighlightSections(false);
+    grdEmps_->horizontalHeader()->setFixedHeight(px(330));
     grdEmps_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     grdEmps_->horizontalHeader()->setStretchLastSection(true);
-    grdEmps_->setStyleSheet(QStringLiteral(
-        "QTableView { background: #FFFFFF; alternate-background-color: #F6E7C1; gridline-color: #E2CFA0;"
-        " selection-background-color: #2F8F83; selection-color: #FFFFFF; border: 1px solid #C9A227; }"
-        "QHeaderView::section { background: #1D2A44; color: #F2C14E; font-weight: bold; padding-left: 3px;"
-        " border: 0px; border-right: 1px solid #2B1D14; }"));
+    // Colours by palette, not style sheet: the grid repaints every day and a style sheet
+    // makes each cell's painting several times dearer.
+    {
+        QPalette pal = grdEmps_->palette();
+        pal.setColor(QPalette::Base, Qt::white);
+        pal.setColor(QPalette::AlternateBase, look::cream);
+        pal.setColor(QPalette::Highlight, look::teal);
+        pal.setColor(QPalette::HighlightedText, Qt::white);
+        pal.setColor(QPalette::Text, look::ink);
+        grdEmps_->setPalette(pal);
+        QPalette head = pal;
+        head.setColor(QPalette::Button, look::navy);
+        head.setColor(QPalette::ButtonText, look::popcorn);
+        head.setColor(QPalette::Window, look::navy);
+        head.setColor(QPalette::WindowText, look::popcorn);
+        grdEmps_->horizontalHeader()->setPalette(head);
+        grdEmps_->horizontalHeader()->setFont(look::font(8, true));
+        grdEmps_->setGridStyle(Qt::SolidLine);
+    }
     const auto& widths = employeeGridWidths();
     for (int c = 0; c < 10; ++c)
         grdEmps_->setColumnWidth(c, px(widths[static_cast<std::size_t>(c)]));
@@ -313,14 +364,12 @@ void frmEmployees::buildDetailsPanel(QWidget* page) {
     frmEmpDetails_->setObjectName(QStringLiteral("frmEmpDetails"));
     frmEmpDetails_->setFont(look::font(8.5, true));
     frmEmpDetails_->setGeometry(pxRect(60, 360, 9180, 4080));
+    // The title sits on the top border, so the panel covers the grid right below its header.
     frmEmpDetails_->setStyleSheet(QStringLiteral(
         "QGroupBox#frmEmpDetails { background: #F6E7C1; border: 2px solid #C9A227; border-radius: 4px;"
-        " margin-top: 8px; }"
-        "QGroupBox#frmEmpDetails::title { subcontrol-origin: margin; left: 10px; padding: 0 4px;"
-        " color: #F2C14E; background: #1D2A44; }"));
-    // Opaque to its top edge, so no sliver of the grid shows above its border.
-    frmEmpDetails_->setAutoFillBackground(true);
-    look::paint(frmEmpDetails_, look::cream, look::ink);
+        " margin-top: 0px; }"
+        "QGroupBox#frmEmpDetails::title { subcontrol-origin: border; subcontrol-position: top left; left: 10px;"
+        " padding: 0 4px; color: #F2C14E; background: #1D2A44; }"));
     QWidget* f = frmEmpDetails_;
 
     // The portrait: nine pictures of one size stacked on one spot, the first at the back.

@@ -95,7 +95,7 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
                                      QRect(452, 108, 162, 30));
     connect(payOff, &ButtonLabel::clicked, this, [&bank] { bank.payOffLoan(); });
     makeLabel(current, QStringLiteral("Label4"), QStringLiteral("Your current credit score is:"),
-              QRect(452, 32, 170, 20), 8.5, true);
+              QRect(440, 32, 182, 20), 8, true);
     lblCreditScore_ = makeLabel(current, QStringLiteral("lblCreditScore"), {}, QRect(452, 52, 162, 30), 14, true);
     lblCreditScore_->setStyleSheet(QStringLiteral("color: #2F8F83;"));
     lblCreditScore_->setAccessibleName(QStringLiteral("Credit score"));
