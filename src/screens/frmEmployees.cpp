@@ -322,6 +322,7 @@ void frmEmployees::buildStaffTab(QWidget* page) {
     grdEmps_->setWordWrap(false);
     grdEmps_->verticalHeader()->hide();
     grdEmps_->verticalHeader()->setDefaultSectionSize(px(285));
+    grdEmps_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grdEmps_->horizontalHeader()->setHighlightSections(false);
     grdEmps_->horizontalHeader()->setFixedHeight(px(330));
     grdEmps_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -419,6 +420,11 @@ void frmEmployees::buildDetailsPanel(QWidget* page) {
     connect(lstPosition_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         playClick();
         game_.employees.selectPosition(lstPosition_->row(item));
+    });
+    // The arrow keys pick as well (no click).
+    connect(lstPosition_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row != game_.employees.selectedPosition())
+            game_.employees.selectPosition(row);
     });
 
     ButtonLabel* assign = makeButton(f, QStringLiteral("lbcAssignPosition"), QStringLiteral("Assign to position"),

@@ -96,7 +96,7 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
     connect(payOff, &ButtonLabel::clicked, this, [&bank] { bank.payOffLoan(); });
     makeLabel(current, QStringLiteral("Label4"), QStringLiteral("Your current credit score is:"),
               QRect(440, 32, 182, 20), 8, true);
-    lblCreditScore_ = makeLabel(current, QStringLiteral("lblCreditScore"), {}, QRect(452, 52, 162, 30), 14, true);
+    lblCreditScore_ = makeLabel(current, QStringLiteral("lblCreditScore"), {}, QRect(448, 52, 166, 30), 14, true);
     lblCreditScore_->setStyleSheet(QStringLiteral("color: #2F8F83;"));
     lblCreditScore_->setAccessibleName(QStringLiteral("Credit score"));
 
@@ -138,7 +138,10 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
     // The payments box is read on Enter or when it loses the focus.
     connect(txtProposedPayPlan_, &QLineEdit::textEdited, this,
             [&bank](const QString& text) { bank.typePayPlan(text.toStdString()); });
-    connect(txtProposedPayPlan_, &QLineEdit::returnPressed, this, [&bank] { bank.payPlanKeyPress(13); });
+    connect(txtProposedPayPlan_, &QLineEdit::returnPressed, this, [this, &bank] {
+        bank.payPlanKeyPress(13);
+        sync(txtProposedPayPlan_, bank.payPlanText); // a number past the limits comes back as the limit
+    });
     txtProposedPayPlan_->installEventFilter(this);
 
     for (int i = 0; i < 4; ++i) {
@@ -159,8 +162,10 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
 }
 
 bool frmLoans::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == txtProposedPayPlan_ && event->type() == QEvent::FocusOut)
+    if (watched == txtProposedPayPlan_ && event->type() == QEvent::FocusOut) {
         game_.loans.payPlanLostFocus();
+        sync(txtProposedPayPlan_, game_.loans.payPlanText);
+    }
     return ChildFrame::eventFilter(watched, event);
 }
 

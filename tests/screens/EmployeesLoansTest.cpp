@@ -204,7 +204,7 @@ private slots:
         struct Case {
             const char* typed;
             double wage;
-        } cases[] = {{"9.5", 9.5}, {"", 9.5}, {"lots", min}, {"-3", min}};
+        } cases[] = {{"9.5", 9.5}, {"", 9.5}, {"lots", min}, {"-3", min}, {"12345678901234567890", 12345678901234567890.0}};
         for (const Case& c : cases) {
             p->dialogs.inputs.push_back(c.typed);
             QTest::mouseClick(rate, Qt::LeftButton);
@@ -230,6 +230,10 @@ private slots:
         amount->clear();
         QTest::keyClicks(amount, QStringLiteral("abc10000"));
         payments->clear(); // the offer has put the least number of payments there
+        QTest::keyClicks(payments, QStringLiteral("none"));
+        QTest::keyClick(payments, Qt::Key_Return);
+        QCOMPARE(payments->text(), QString::number(p->game().math.loanpaymentsmin));
+        payments->clear();
         QTest::keyClicks(payments, QStringLiteral("12"));
         QTest::keyClick(payments, Qt::Key_Return);
         const double monthly = bank.offerMonthly;
