@@ -465,8 +465,13 @@ void frmEmployees::clickGrid(int row) {
 void frmEmployees::paintEmployeeGrid() {
     const int keep = gridRow_;
     holdRow_ = true;
+    const int before = gridModel_->rowCount();
     gridModel_->setRows(employeeGridRows(game_.employees));
     const int count = gridModel_->rowCount();
+    // Lay the rows out now, so the grid is painted once in this pass and not again when the
+    // view's own delayed layout comes round.
+    if (count != before)
+        grdEmps_->doItemsLayout();
     gridRow_ = keep > count ? count : keep;
     if (gridRow_ >= 1 && grdEmps_->currentIndex().row() != gridRow_ - 1)
         grdEmps_->setCurrentIndex(gridModel_->index(gridRow_ - 1, 0));
