@@ -186,6 +186,9 @@ private slots:
         auto* panel = get<QWidget>(f, QStringLiteral("frmEmpDetails"));
         QVERIFY(panel->isVisible());
         QCOMPARE(static_cast<frmEmployees*>(p->mode(1))->gridRow(), 2);
+        auto* grid = get<QTableView>(f, QStringLiteral("grdEmps"));
+        QCOMPARE(grid->model()->rowCount(), 2);
+        QCOMPARE(grid->model()->index(0, 0).data().toString().toStdString(), shown);
         QCOMPARE(get(f, QStringLiteral("lblDetlName"))->text().toStdString(), shown);
         p->dialogs.answers.push_back(Answer::Yes);
         get<ButtonLabel>(f, QStringLiteral("lbcFireEmp"))->trigger();
