@@ -113,6 +113,9 @@ int runScreenshots(const Options& o, const QString& folder) {
     w.showMain();
     w.main().move(0, 0);
     playDemo(w, dialogs, folder);
+    // The shots play their days themselves: a running clock would add days by the wall
+    // clock, and the pictures would differ from run to run.
+    w.game().setSpeed(0);
     // The shots that play on (the graph's year) have the theater run as the advisor teaches,
     // so the year shows a house in business. The player takes over at the first such day, so
     // the other shots show the demo's theater as the script left it.
