@@ -1,7 +1,8 @@
 #pragma once
 // A windowed game for the screens' tests and benchmarks: boxes answered from a script,
 // settings kept in memory, sounds recorded, the game started, "Play !" pressed and the main
-// screen up.
+// screen up. With `play` false it stays at the title screen, as the player first sees it;
+// `commandLine` is the one argument the game was started with (a saved game to open).
 #include "GameApplication.h"
 #include "GameWindows.h"
 #include "frame/ChildFrame.h"
@@ -22,7 +23,8 @@ struct PlayingWindow {
     RecordingSound sound;
     std::unique_ptr<GameWindows> w;
 
-    explicit PlayingWindow(std::uint64_t seed = 7, std::string executable = {}) {
+    explicit PlayingWindow(std::uint64_t seed = 7, std::string executable = {}, bool play = true,
+                           std::string commandLine = {}) {
         // A fatal error inside a test is a failed test, not a box nobody answers.
         static_cast<GameApplication*>(qApp)->onFatal = [](const QString& m) {
             qFatal("fatal: %s", qPrintable(m));
@@ -30,12 +32,15 @@ struct PlayingWindow {
         WindowsSetup setup;
         setup.folder = ZORVANE_SOURCE_DATA;
         setup.executable = std::move(executable);
+        setup.commandLine = std::move(commandLine);
         setup.seed = seed;
         setup.dialogs = &dialogs;
         setup.settings = &settings;
         setup.sound = &sound;
         w = std::make_unique<GameWindows>(setup);
         w->startup();
+        if (!play)
+            return;
         w->game().startPlay(-1);
         w->showMain();
     }
