@@ -5,6 +5,7 @@
 #include "Screenshots.h"
 #include "arcade/ArcadeTexts.h"
 #include "frame/ButtonLabel.h"
+#include "frame/Labels.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
@@ -55,11 +56,7 @@ QColor fromRgb(std::uint32_t rgb) {
 
 QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, const QRect& r,
                   const QFont& font) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(r);
-    l->setFont(font);
-    return l;
+    return placeLabel(parent, name, text, r, font);
 }
 
 // Sell and Close answer every mouse button: any press sinks them with the click, any

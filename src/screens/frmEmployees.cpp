@@ -2,6 +2,7 @@
 
 #include "Screenshots.h"
 #include "frame/ButtonLabel.h"
+#include "frame/Labels.h"
 #include "frame/Look.h"
 #include "frame/Twips.h"
 #include "ports/QtScreen.h"
@@ -156,18 +157,11 @@ const char* const layerNames[9] = {"imgPicBackhair",   "imgPicTorso",   "imgPicH
 
 QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, const QRect& at,
                   double size = 8, bool bold = false) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(at);
-    l->setFont(look::font(size, bold));
-    return l;
+    return placeLabel(parent, name, text, at, look::font(size, bold));
 }
 
-// A label's text, changed only when it differs (a busy day asks for the same texts again).
 void put(QLabel* l, const std::string& text) {
-    const QString t = QString::fromStdString(text);
-    if (l->text() != t)
-        l->setText(t);
+    putText(l, text);
 }
 
 ButtonLabel* makeButton(QWidget* parent, const QString& name, const QString& caption,

@@ -2,6 +2,7 @@
 
 #include "Screenshots.h"
 #include "frame/ButtonLabel.h"
+#include "frame/Labels.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
@@ -31,17 +32,11 @@ const char* const proposedInfo[4] = {"Interest Rate", "Montly Payments", "Total 
 
 QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, const QRect& at,
                   double size = 8.5, bool bold = false) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(at);
-    l->setFont(look::font(size, bold));
-    return l;
+    return placeLabel(parent, name, text, at, look::font(size, bold));
 }
 
 void put(QLabel* l, const std::string& text) {
-    const QString t = QString::fromStdString(text);
-    if (l->text() != t)
-        l->setText(t);
+    putText(l, text);
 }
 
 // A box of the game's text, rewritten only when the game's text differs from what stands in it.

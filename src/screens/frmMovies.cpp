@@ -3,6 +3,7 @@
 #include "Screenshots.h"
 #include "core/Text.h"
 #include "frame/ButtonLabel.h"
+#include "frame/Labels.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
@@ -59,12 +60,7 @@ QColor systemWindowText() {
 
 QLabel* label(QWidget* parent, const QString& name, const QString& text, const QRect& r,
               const QFont& font, Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(r);
-    l->setFont(font);
-    l->setAlignment(align);
-    return l;
+    return placeLabel(parent, name, text, r, font, align);
 }
 
 QLabel* hint(QWidget* parent, const char* text, const QRect& r) {

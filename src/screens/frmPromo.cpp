@@ -2,6 +2,7 @@
 
 #include "Screenshots.h"
 #include "frame/ButtonLabel.h"
+#include "frame/Labels.h"
 #include "frame/Look.h"
 #include "frame/Picture.h"
 #include "frame/Twips.h"
@@ -32,12 +33,7 @@ const char* const pictures[5] = {"images\\promos\\nickel.png", "images\\promos\\
 
 QLabel* label(QWidget* parent, const QString& name, const QString& text, const QRect& r,
               const QFont& font, Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(r);
-    l->setFont(font);
-    l->setAlignment(align);
-    return l;
+    return placeLabel(parent, name, text, r, font, align);
 }
 
 ButtonLabel* button(QWidget* parent, const QString& name, const char* caption, const QRect& r) {
