@@ -126,8 +126,15 @@ int runScreenshots(const Options& o, const QString& folder) {
         begun = true;
         player->beforeDay(w.game());
     };
-    const int failed = w.screenshots().run(QString::fromStdString(o.screenshotDir));
-    return failed == 0 ? 0 : 1;
+    try {
+        const int failed = w.screenshots().run(QString::fromStdString(o.screenshotDir));
+        return failed == 0 ? 0 : 1;
+    } catch (const ProcessEnded&) {
+        // A shot whose game quit or went broke would leave the later pictures unwritten.
+        std::fprintf(stderr, "zorvane: the game ended during the screenshots; later ones are "
+                             "missing\n");
+        return 1;
+    }
 }
 
 } // namespace
