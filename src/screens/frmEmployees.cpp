@@ -160,17 +160,9 @@ QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, con
     return placeLabel(parent, name, text, at, look::font(size, bold));
 }
 
-void put(QLabel* l, const std::string& text) {
-    putText(l, text);
-}
-
 ButtonLabel* makeButton(QWidget* parent, const QString& name, const QString& caption,
                         const QRect& at) {
-    auto* b = new ButtonLabel(name, caption, parent);
-    b->setColours(fromBgr(buttonColour), look::ink);
-    b->setFont(look::font(8.5, true));
-    b->setGeometry(at);
-    return b;
+    return placeButton(parent, name, caption, at, fromBgr(buttonColour), look::ink);
 }
 
 } // namespace
@@ -300,21 +292,21 @@ void frmEmployees::paintPositions() {
     const PositionChart chart = positionChart(game_.employees);
     for (std::size_t i = 0; i < 7; ++i) {
         const PositionRow& r = chart.rows[i];
-        put(lblPosition_[i], r.position);
-        put(lblEmpName_[i], r.employee);
-        put(lblPayRate_[i], r.payRate);
-        put(lblSeniority_[i], r.seniority);
-        put(lblExperience_[i], r.experience);
+        putText(lblPosition_[i], r.position);
+        putText(lblEmpName_[i], r.employee);
+        putText(lblPayRate_[i], r.payRate);
+        putText(lblSeniority_[i], r.seniority);
+        putText(lblExperience_[i], r.experience);
         const QString tip = QString::fromStdString(r.experienceTip);
         if (lblExperience_[i]->toolTip() != tip)
             lblExperience_[i]->setToolTip(tip);
-        put(lblSickDays_[i], r.sickDays);
-        put(lblPaid_[i], r.paid);
+        putText(lblSickDays_[i], r.sickDays);
+        putText(lblPaid_[i], r.paid);
     }
-    put(lblMinWage_, chart.minWage);
-    put(lblTotalPayRate_, chart.totalPayRate);
-    put(lblTotalSick_, chart.totalSick);
-    put(lblTotalPaid_, chart.totalPaid);
+    putText(lblMinWage_, chart.minWage);
+    putText(lblTotalPayRate_, chart.totalPayRate);
+    putText(lblTotalSick_, chart.totalSick);
+    putText(lblTotalPaid_, chart.totalPaid);
 }
 
 // ------------------------------------------------------------------ tab 1: the staff
@@ -524,13 +516,13 @@ void frmEmployees::paintEmployeeDetails() {
     if (!d.visible)
         return;
     frmEmpDetails_->raise();
-    put(lblEmpNum_, d.number);
-    put(lblDetlName_, d.name);
+    putText(lblEmpNum_, d.number);
+    putText(lblDetlName_, d.name);
     const std::string* values[10] = {&d.exp,          &d.rel,        &d.amb,      &d.job,
                                      &d.daysEmployed, &d.daysWorked, &d.daysSick, &d.totalPaid,
                                      &d.seniority,    &d.angerLevel};
     for (std::size_t i = 0; i < 10; ++i)
-        put(detailValues_[i], *values[i]);
+        putText(detailValues_[i], *values[i]);
     // The list is the game's: "0-None" and the seven posts, made when the posts were set up.
     const std::vector<std::string>& entries = game_.employees.positionList();
     if (lstPosition_->count() != static_cast<int>(entries.size())) {
@@ -601,11 +593,11 @@ void frmEmployees::paintHireTable() {
     const std::array<HireRow, 10> rows = hireTableRows(game_.employees);
     for (std::size_t i = 0; i < 10; ++i) {
         const HireRow& r = rows[i];
-        put(lblHireName_[i], r.name);
-        put(lblHireExp_[i], r.exp);
-        put(lblHireRel_[i], r.rel);
-        put(lblHireAmb_[i], r.amb);
-        put(lblHireTrain_[i], r.train);
+        putText(lblHireName_[i], r.name);
+        putText(lblHireExp_[i], r.exp);
+        putText(lblHireRel_[i], r.rel);
+        putText(lblHireAmb_[i], r.amb);
+        putText(lblHireTrain_[i], r.train);
         look::paint(lblHireExp_[i], r.openPost ? lightRed : white, look::ink);
         lbcHireEmp_[i]->setVisible(r.button);
     }

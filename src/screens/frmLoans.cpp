@@ -35,10 +35,6 @@ QLabel* makeLabel(QWidget* parent, const QString& name, const QString& text, con
     return placeLabel(parent, name, text, at, look::font(size, bold));
 }
 
-void put(QLabel* l, const std::string& text) {
-    putText(l, text);
-}
-
 // A box of the game's text, rewritten only when the game's text differs from what stands in it.
 void sync(QLineEdit* box, const std::string& text) {
     const QString t = QString::fromStdString(text);
@@ -59,11 +55,7 @@ QFrame* panel(QWidget* parent, const QString& name, const QRect& at) {
 
 ButtonLabel* makeButton(QWidget* parent, const QString& name, const QString& caption,
                         const QRect& at) {
-    auto* b = new ButtonLabel(name, caption, parent);
-    b->setColours(fromBgr(buttonColour), look::ink);
-    b->setFont(look::font(8.5, true));
-    b->setGeometry(at);
-    return b;
+    return placeButton(parent, name, caption, at, fromBgr(buttonColour), look::ink);
 }
 
 } // namespace
@@ -182,7 +174,7 @@ void frmLoans::paintOffer() {
     const loanManager& bank = game_.loans;
     const auto t = loanOfferTexts(bank);
     for (std::size_t i = 0; i < t.size(); ++i)
-        put(lblProposedData_[i], t[i]);
+        putText(lblProposedData_[i], t[i]);
     sync(txtProposedAmount_, bank.amountText);
     sync(txtProposedPayPlan_, bank.payPlanText);
 }
@@ -190,11 +182,11 @@ void frmLoans::paintOffer() {
 void frmLoans::paintCurrentLoan() {
     const auto t = currentLoanTexts(game_.loans);
     for (std::size_t i = 0; i < t.size(); ++i)
-        put(lblCurrentData_[i], t[i]);
+        putText(lblCurrentData_[i], t[i]);
 }
 
 void frmLoans::paintCredit() {
-    put(lblCreditScore_, creditText(game_.loans));
+    putText(lblCreditScore_, creditText(game_.loans));
 }
 
 void frmLoans::attach(QtScreen& screen) {

@@ -132,11 +132,8 @@ void fillGrid(QTableWidget* g, const GridText& text,
 
 ButtonLabel* movieButton(QWidget* parent, const QString& name, const char* caption,
                          const QRect& r) {
-    auto* b = new ButtonLabel(name, QString::fromLatin1(caption), parent);
-    b->setGeometry(r);
-    b->setFont(look::font(8.5, true));
-    b->setColours(fromBgr(cap::buttonColour), systemWindowText());
-    return b;
+    return placeButton(parent, name, QString::fromLatin1(caption), r, fromBgr(cap::buttonColour),
+                       systemWindowText());
 }
 
 } // namespace

@@ -37,11 +37,8 @@ QLabel* label(QWidget* parent, const QString& name, const QString& text, const Q
 }
 
 ButtonLabel* button(QWidget* parent, const QString& name, const char* caption, const QRect& r) {
-    auto* b = new ButtonLabel(name, QString::fromLatin1(caption), parent);
-    b->setGeometry(r);
-    b->setFont(look::font(8.5, true));
-    b->setColours(fromBgr(promoCaptions::buttonColour), look::ink);
-    return b;
+    return placeButton(parent, name, QString::fromLatin1(caption), r,
+                       fromBgr(promoCaptions::buttonColour), look::ink);
 }
 
 } // namespace

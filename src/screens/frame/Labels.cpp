@@ -1,5 +1,8 @@
 #include "frame/Labels.h"
 
+#include "frame/ButtonLabel.h"
+#include "frame/Look.h"
+
 #include <QLabel>
 
 namespace zorvane::screens {
@@ -12,6 +15,15 @@ QLabel* placeLabel(QWidget* parent, const QString& name, const QString& text, co
     l->setFont(font);
     l->setAlignment(align);
     return l;
+}
+
+ButtonLabel* placeButton(QWidget* parent, const QString& name, const QString& caption,
+                         const QRect& at, const QColor& background, const QColor& text) {
+    auto* b = new ButtonLabel(name, caption, parent);
+    b->setGeometry(at);
+    b->setFont(look::font(8.5, true));
+    b->setColours(background, text);
+    return b;
 }
 
 void putText(QLabel* label, const std::string& text) {
