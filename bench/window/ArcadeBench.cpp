@@ -1,5 +1,6 @@
 // The arcade screen, offscreen: one mouse-move event of a cabinet dragged about a room of 20
 // machines, with the event loop's pass that repaints what moved.
+#include "BenchWindow.h"
 #include "GameWindows.h"
 #include "frmArcade.h"
 
@@ -28,18 +29,11 @@ struct PaintCounter : QObject {
 };
 
 void BM_ArcadeDragMove(benchmark::State& state) {
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    WindowsSetup setup;
-    setup.folder = ZORVANE_SOURCE_DATA;
-    setup.seed = 2026;
-    setup.dialogs = &dialogs;
-    setup.settings = &settings;
-    GameWindows w(setup);
-    w.startup();
-    w.game().startPlay(-1);
-    w.showMain();
+    BenchWindow window(false);
+    GameWindows& w = *window.w;
     Game& game = w.game();
+    game.startPlay(-1);
+    w.showMain();
     arcadeManager& arcades = game.arcades;
     game.math.arcademax = 20;
     game.finances.setFunds(1e7);

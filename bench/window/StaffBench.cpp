@@ -1,25 +1,19 @@
 // Benchmarks of the staff screen, offscreen (Google Benchmark): refilling the staff grid with
 // 300 people on the staff, and a day at Fast with the screen open on the grid and 50 people.
 //   build/release/bin/zorvane-window-bench --benchmark_filter=Staff
-#include "AroundScreens.h"
-#include "Commands.h"
-#include "GameApplication.h"
-#include "GameWindows.h"
+#include "BenchWindow.h"
 #include "frmEmployees.h"
-#include "frmLoader.h"
-#include "frmMain.h"
 #include "ports/QtScreen.h"
+#include "session/Game.h"
 
+#include <QCoreApplication>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTimer>
 
 #include <benchmark/benchmark.h>
 
-#include <fstream>
-#include <memory>
+#include <exception>
 #include <set>
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::screens;
@@ -27,30 +21,14 @@ using namespace zorvane::screens;
 namespace {
 
 // The demo theater (staffed and in business), the staff screen on its grid.
-struct StaffWindow {
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    std::unique_ptr<GameWindows> w;
+struct StaffWindow : BenchWindow {
     frmEmployees* screen = nullptr;
 
-    StaffWindow() {
-        WindowsSetup setup;
-        setup.folder = ZORVANE_SOURCE_DATA;
-        setup.seed = 2026;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        w = std::make_unique<GameWindows>(setup);
-        w->startup();
-        w->game().startPlay(-1);
-        w->showMain();
-        w->around().loader().hide(); // as "Play !" leaves the title screen
+    StaffWindow() : BenchWindow(true) {
         // A manager of fifty has long closed the advisor; its open panel costs the offscreen
         // day as much again (see the README).
-        w->game().tutor.endTutor();
-        std::ifstream script(ZORVANE_SOURCE_DATA "/demo.txt");
-        std::ostringstream out;
-        sim::playScript(w->game(), dialogs, script, out);
-        w->game().switchMode(1);
+        game().tutor.endTutor();
+        game().switchMode(1);
         screen = static_cast<frmEmployees*>(w->modeScreen(1));
         screen->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->setCurrentIndex(1);
         QCoreApplication::processEvents();
@@ -103,14 +81,10 @@ void BM_StaffDayAtFast50(benchmark::State& state) {
     Game& game = window.w->game();
     window.staffUpTo(50);
     int pictures = 0, topups = 0;
-    window.w->screen().onShowLose = [&pictures] { ++pictures; };
-    window.w->screen().onShowGoal = [&pictures] { ++pictures; };
     // Enough money to pay everyone, not so much that the stand's monthly order of goods
     // passes the game's 16-bit counts.
     game.finances.earn(100000, "");
-    game.setSpeed(3);
-    window.w->main().clock()->stop(); // the benchmark is the clock
-    QCoreApplication::processEvents();
+    window.runAtFast(pictures);
     for (auto _ : state) {
         for (int d = 0; d < 336; ++d) {
             try {
@@ -135,8 +109,7 @@ void BM_StaffDayAtFast50(benchmark::State& state) {
     }
     state.counters["pictures"] = pictures;
     state.counters["topups"] = topups;
-    state.counters["per_day"] = benchmark::Counter(
-        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    countPerDay(state);
 }
 BENCHMARK(BM_StaffDayAtFast50)->Unit(benchmark::kMillisecond)->Iterations(3);
 

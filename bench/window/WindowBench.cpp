@@ -6,9 +6,8 @@
 // sound players after it; one line added to a log window that holds 20,000.
 //   build/release/bin/zorvane-window-bench
 #include "AroundScreens.h"
-#include "Commands.h"
+#include "BenchWindow.h"
 #include "GameApplication.h"
-#include "GameWindows.h"
 #include "frame/ChildFrame.h"
 #include "frmLoader.h"
 #include "frmLog.h"
@@ -35,67 +34,6 @@ using namespace zorvane::screens;
 
 namespace {
 
-struct Window {
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    std::unique_ptr<GameWindows> w;
-    frmLog* log = nullptr;
-
-    explicit Window(bool withDemo, bool audio = false) {
-        WindowsSetup setup;
-        setup.audio = audio;
-        setup.folder = ZORVANE_SOURCE_DATA;
-        setup.seed = 2026;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        w = std::make_unique<GameWindows>(setup);
-        w->startup(); // the title screen is up
-        if (withDemo) {
-            w->game().startPlay(-1);
-            w->showMain();               // a staffed theater in business: the demo script's month
-            w->around().loader().hide(); // as "Play !" leaves the title screen
-            std::ifstream script(ZORVANE_SOURCE_DATA "/demo.txt");
-            std::ostringstream out;
-            sim::playScript(w->game(), dialogs, script, out);
-        }
-    }
-    void showLog() {
-        log = &w->around().log();
-        log->show();
-    }
-    // Every window a player can have open at once: the eight mode screens (each shown
-    // through its mode, the last one glued under the main screen) and the log window.
-    void showEverything() {
-        for (int m = 0; m < 8; ++m)
-            w->game().switchMode(m);
-        showLog();
-    }
-    // The clock at Fast with the benchmark as its timer; a lost game or a reached goal
-    // would wait for a double click on its picture, so here they only count.
-    void runAtFast(int& pictures) {
-        w->screen().onShowLose = [&pictures] { ++pictures; };
-        w->screen().onShowGoal = [&pictures] { ++pictures; };
-        w->game().setSpeed(3);
-        w->main().clock()->stop();
-        QCoreApplication::processEvents();
-    }
-};
-
-// A game year at Fast, day by day: the tick, then the event loop's pass that repaints every
-// stale view once and paints the windows. False with the error when the game ends in one.
-bool runYear(Game& game, benchmark::State& state) {
-    for (int d = 0; d < 336; ++d) {
-        try {
-            game.clockTick();
-        } catch (const std::exception& e) {
-            state.SkipWithError(e.what());
-            return false;
-        }
-        QCoreApplication::processEvents();
-    }
-    return true;
-}
-
 // The process's resident memory now, in megabytes.
 double residentMegabytes() {
     long pages = 0, resident = 0;
@@ -110,7 +48,7 @@ double residentMegabytes() {
 // One game day as the clock runs it at Fast: the tick, then the event loop's pass that
 // repaints every stale view once and paints both windows.
 void BM_DayAtFastWithWindows(benchmark::State& state) {
-    Window window(true);
+    BenchWindow window(true);
     if (state.range(0) != 0)
         window.showLog();
     // A year of the demo theater may end in a lost game.
@@ -119,10 +57,8 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
     for (auto _ : state)
         if (!runYear(window.w->game(), state))
             return;
-    // Seconds per day, printed with its unit (e.g. 450u is 0.45 ms).
     state.counters["pictures"] = pictures;
-    state.counters["per_day"] = benchmark::Counter(
-        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    countPerDay(state);
 }
 // Argument 1: the log window shows too (the goal's case); 0: the main screen alone.
 BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
@@ -131,7 +67,7 @@ BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond
 // to hold 20, as a player's math file may allow), in a theater that stays in business: every
 // crowd plays the machines and passes the stand, and both screens repaint what changed.
 void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
-    Window window(true);
+    BenchWindow window(true);
     Game& game = window.w->game();
     game.math.arcademax = 20;
     // A prosperous theater, in business all year: a fortune, and stand orders that three
@@ -165,15 +101,14 @@ void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
     state.counters["visible"] =
         window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
     state.counters["pictures"] = pictures;
-    state.counters["per_day"] = benchmark::Counter(
-        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    countPerDay(state);
 }
 BENCHMARK(BM_DayAtFastWithArcadeAndStand)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // The same day with every screen open: the main screen, the eight mode screens and the log
 // window, all repainted as their views go stale.
 void BM_DayAtFastWithEveryScreen(benchmark::State& state) {
-    Window window(true);
+    BenchWindow window(true);
     window.showEverything();
     int pictures = 0;
     window.runAtFast(pictures);
@@ -181,8 +116,7 @@ void BM_DayAtFastWithEveryScreen(benchmark::State& state) {
         if (!runYear(window.w->game(), state))
             return;
     state.counters["pictures"] = pictures;
-    state.counters["per_day"] = benchmark::Counter(
-        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    countPerDay(state);
 }
 BENCHMARK(BM_DayAtFastWithEveryScreen)->Unit(benchmark::kMillisecond)->Iterations(3);
 
@@ -192,7 +126,7 @@ BENCHMARK(BM_DayAtFastWithEveryScreen)->Unit(benchmark::kMillisecond)->Iteration
 // main screen's log box): argument 0 closes it again, to tell its growth from the rest.
 void BM_MemoryOverTenYears(benchmark::State& state) {
     for (auto _ : state) {
-        Window window(true);
+        BenchWindow window(true);
         window.showEverything();
         if (state.range(0) == 0)
             window.log->hide();
@@ -214,7 +148,7 @@ BENCHMARK(BM_MemoryOverTenYears)->Arg(1)->Arg(0)->Unit(benchmark::kSecond)->Iter
 // The same day at Fast with the movies and promotions screens up beside the main screen:
 // the showtime table and the own list repaint every day, the promotions when they change.
 void BM_DayAtFastWithMoviesAndPromo(benchmark::State& state) {
-    Window window(true);
+    BenchWindow window(true);
     Game& game = window.w->game();
     game.promos.addPromo(2);
     game.promos.addPromo(3);
@@ -226,8 +160,7 @@ void BM_DayAtFastWithMoviesAndPromo(benchmark::State& state) {
         if (!runYear(game, state))
             return;
     state.counters["pictures"] = pictures;
-    state.counters["per_day"] = benchmark::Counter(
-        336, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    countPerDay(state);
 }
 BENCHMARK(BM_DayAtFastWithMoviesAndPromo)->Unit(benchmark::kMillisecond)->Iterations(3);
 
@@ -237,7 +170,7 @@ BENCHMARK(BM_DayAtFastWithMoviesAndPromo)->Unit(benchmark::kMillisecond)->Iterat
 // music); 0: silent, as the tests run. The difference is what the sound board adds.
 void BM_StartToTitle(benchmark::State& state) {
     for (auto _ : state) {
-        Window window(false, state.range(0) != 0);
+        BenchWindow window(false, state.range(0) != 0);
         QCoreApplication::processEvents();
         window.w->around().loader().repaint();
         benchmark::DoNotOptimize(window.w.get());
@@ -248,7 +181,7 @@ BENCHMARK(BM_StartToTitle)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Itera
 // The sound board's part of start-up alone (step "starting sound board"), with the game's
 // sound port: every player opened and the music started.
 void BM_SoundBoardInit(benchmark::State& state) {
-    Window window(false, true);
+    BenchWindow window(false, true);
     for (auto _ : state)
         window.w->game().soundBoard.init();
 }
@@ -260,7 +193,7 @@ BENCHMARK(BM_SoundBoardInit)->Unit(benchmark::kMicrosecond);
 void BM_SoundPlayersMade(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
-        auto window = std::make_unique<Window>(false, true);
+        auto window = std::make_unique<BenchWindow>(false, true);
         QtSound* sound = window->w->qtSound();
         state.ResumeTiming();
         sound->makeAll();
@@ -276,7 +209,7 @@ BENCHMARK(BM_SoundPlayersMade)->Unit(benchmark::kMillisecond)->Iterations(5);
 // writes several) and the window paints once per pass of the event loop: here once every
 // ten lines, included in the figure.
 void BM_LogWindowAppend(benchmark::State& state) {
-    Window window(false);
+    BenchWindow window(false);
     window.showLog();
     QCoreApplication::processEvents(); // shown and activated: it holds its copy of the log
     for (int i = 0; i < 20000; ++i)

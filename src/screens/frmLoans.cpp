@@ -16,6 +16,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <array>
+
 namespace zorvane::screens {
 
 namespace {
@@ -58,6 +60,23 @@ ButtonLabel* makeButton(QWidget* parent, const QString& name, const QString& cap
     return placeButton(parent, name, caption, at, fromBgr(buttonColour), look::ink);
 }
 
+// A column of bold captions (lbl<prefix>Info_i) with their figures beside them
+// (lbl<prefix>Data_i), a row every `step` pixels from `top`; fills `figures`.
+template <std::size_t N>
+void figureColumn(QWidget* parent, const QString& prefix, const char* const (&captions)[N],
+                  int left, int top, int step, int figureLeft, int figureWidth,
+                  std::array<QLabel*, N>& figures) {
+    for (std::size_t i = 0; i < N; ++i) {
+        const QString caption = QString::fromLatin1(captions[i]);
+        const int y = top + static_cast<int>(i) * step;
+        makeLabel(parent, QStringLiteral("lbl%1Info_%2").arg(prefix).arg(i), caption,
+                  QRect(left, y, 150, 20), 8.5, true);
+        figures[i] = makeLabel(parent, QStringLiteral("lbl%1Data_%2").arg(prefix).arg(i), {},
+                               QRect(figureLeft, y, figureWidth, 20));
+        figures[i]->setAccessibleName(caption);
+    }
+}
+
 } // namespace
 
 frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
@@ -76,15 +95,8 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
         makeLabel(current, QStringLiteral("Label1"), QStringLiteral("Current Outstanding Debt"),
                   QRect(188, 8, 280, 22), 10, true);
     title->setStyleSheet(QStringLiteral("color: #7A1620;"));
-    for (int i = 0; i < 5; ++i) {
-        const QString caption = QString::fromLatin1(currentInfo[i]);
-        makeLabel(current, QStringLiteral("lblCurrentInfo_%1").arg(i), caption,
-                  QRect(188, 32 + i * 20, 150, 20), 8.5, true);
-        QLabel* v = makeLabel(current, QStringLiteral("lblCurrentData_%1").arg(i), {},
-                              QRect(340, 32 + i * 20, 110, 20));
-        v->setAccessibleName(caption);
-        lblCurrentData_[static_cast<std::size_t>(i)] = v;
-    }
+    figureColumn(current, QStringLiteral("Current"), currentInfo, 188, 32, 20, 340, 110,
+                 lblCurrentData_);
     ButtonLabel* payOff =
         makeButton(current, QStringLiteral("lbcPayOff"), QStringLiteral("Pay off full amount now"),
                    QRect(452, 108, 162, 30));
@@ -143,15 +155,8 @@ frmLoans::frmLoans(Game& game, std::uint32_t bgr, QWidget* parent)
     });
     txtProposedPayPlan_->installEventFilter(this);
 
-    for (int i = 0; i < 4; ++i) {
-        const QString caption = QString::fromLatin1(proposedInfo[i]);
-        makeLabel(offer, QStringLiteral("lblProposedInfo_%1").arg(i), caption,
-                  QRect(10, 70 + i * 21, 150, 20), 8.5, true);
-        QLabel* v = makeLabel(offer, QStringLiteral("lblProposedData_%1").arg(i), {},
-                              QRect(162, 70 + i * 21, 150, 20));
-        v->setAccessibleName(caption);
-        lblProposedData_[static_cast<std::size_t>(i)] = v;
-    }
+    figureColumn(offer, QStringLiteral("Proposed"), proposedInfo, 10, 70, 21, 162, 150,
+                 lblProposedData_);
     ButtonLabel* start =
         makeButton(offer, QStringLiteral("lbcStartLoan"), QStringLiteral("Take out this loan."),
                    QRect(452, 124, 162, 30));
