@@ -24,15 +24,6 @@ using namespace zorvane::screens;
 
 namespace {
 
-// Sends a mouse event straight to a widget at one of its points; a move holds `button`.
-void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPointF at) {
-    const Qt::MouseButtons held =
-        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
-    QMouseEvent e(type, at, w->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
-                  held, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-
 // Drags a widget by `by` pixels with one button, in `steps` moves: each move is where the
 // mouse is, relative to where the widget stood when the move began, as on a real screen.
 void drag(QWidget* w, Qt::MouseButton button, QPointF by, int steps = 1) {
@@ -44,18 +35,6 @@ void drag(QWidget* w, Qt::MouseButton button, QPointF by, int steps = 1) {
         mouse(w, QEvent::MouseMove, button, mouseAt - QPointF(w->pos()));
     }
     mouse(w, QEvent::MouseButtonRelease, button, mouseAt - QPointF(w->pos()));
-}
-
-void press(QWidget* w, Qt::MouseButton button, QPointF at = {5, 5}) {
-    mouse(w, QEvent::MouseButtonPress, button, at);
-    mouse(w, QEvent::MouseButtonRelease, button, at);
-}
-
-// A double click as the window system delivers it.
-void doubleClick(QWidget* w, QPointF at) {
-    press(w, Qt::LeftButton, at);
-    mouse(w, QEvent::MouseButtonDblClick, Qt::LeftButton, at);
-    mouse(w, QEvent::MouseButtonRelease, Qt::LeftButton, at);
 }
 
 } // namespace

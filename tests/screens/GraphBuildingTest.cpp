@@ -14,16 +14,6 @@
 using namespace zorvane;
 using namespace zorvane::screens;
 
-namespace {
-void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button) {
-    const QPointF at(3, 3);
-    QMouseEvent e(type, at, w->mapToGlobal(at), button,
-                  type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button),
-                  Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-} // namespace
-
 class GraphBuildingTest : public QObject {
     Q_OBJECT
 

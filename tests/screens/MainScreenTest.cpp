@@ -20,22 +20,12 @@ using namespace zorvane::screens;
 
 namespace {
 
-// Sends a mouse event straight to a widget, at a point of that widget.
-void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPoint at) {
-    // A move carries the held left button: the drag of a label.
-    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton
-                                  : type == QEvent::MouseMove        ? Qt::LeftButton
-                                                                     : Qt::MouseButtons(button);
-    QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-
 // Drags a window by one of its labels, by `by` pixels.
 void drag(QWidget* header, QPoint by) {
     const QPoint grip(20, 5);
     mouse(header, QEvent::MouseButtonPress, Qt::LeftButton, grip);
     // The label moves with its window: after the move the grip is back under the mouse.
-    mouse(header, QEvent::MouseMove, Qt::NoButton, grip + by);
+    mouse(header, QEvent::MouseMove, Qt::LeftButton, grip + by);
     mouse(header, QEvent::MouseButtonRelease, Qt::LeftButton, grip);
 }
 

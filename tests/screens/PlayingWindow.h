@@ -8,6 +8,7 @@
 #include "frame/ChildFrame.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QWidget>
 
 #include <algorithm>
@@ -67,5 +68,28 @@ struct PlayingWindow {
         return c;
     }
 };
+
+// Sends a mouse event straight to a widget at one of its points, as the window system
+// delivers it: a move carries no button of its own but holds `button`; a release holds none.
+inline void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPointF at = {3, 3}) {
+    const Qt::MouseButtons held =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+    QMouseEvent e(type, at, w->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
+                  held, Qt::NoModifier);
+    QApplication::sendEvent(w, &e);
+}
+
+// A click of one button: down and up at the same point.
+inline void press(QWidget* w, Qt::MouseButton button, QPointF at = {5, 5}) {
+    mouse(w, QEvent::MouseButtonPress, button, at);
+    mouse(w, QEvent::MouseButtonRelease, button, at);
+}
+
+// A double click as the mouse makes it: press, release, double click, release.
+inline void doubleClick(QWidget* w, QPointF at) {
+    press(w, Qt::LeftButton, at);
+    mouse(w, QEvent::MouseButtonDblClick, Qt::LeftButton, at);
+    mouse(w, QEvent::MouseButtonRelease, Qt::LeftButton, at);
+}
 
 } // namespace zorvane::screens

@@ -16,15 +16,6 @@
 using namespace zorvane;
 using namespace zorvane::screens;
 
-namespace {
-void mouse(QWidget* w, QEvent::Type type, Qt::MouseButton button, QPoint at) {
-    const Qt::MouseButtons held =
-        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(Qt::LeftButton);
-    QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-} // namespace
-
 class SettingsTutorTest : public QObject {
     Q_OBJECT
 
@@ -123,20 +114,20 @@ class SettingsTutorTest : public QObject {
         QCOMPARE(p->clicks(), clicks + 5);
 
         const QPoint before = panel->pos();
-        mouse(panel, QEvent::MouseButtonPress, Qt::LeftButton, QPoint(30, 150));
-        mouse(panel, QEvent::MouseMove, Qt::NoButton, QPoint(70, 175));
-        mouse(panel, QEvent::MouseButtonRelease, Qt::LeftButton, QPoint(70, 175));
+        mouse(panel, QEvent::MouseButtonPress, Qt::LeftButton, QPointF(30, 150));
+        mouse(panel, QEvent::MouseMove, Qt::LeftButton, QPointF(70, 175));
+        mouse(panel, QEvent::MouseButtonRelease, Qt::LeftButton, QPointF(70, 175));
         QCOMPARE(panel->pos(), before + QPoint(40, 25));
 
         auto* close = PlayingWindow::control<QLabel>(panel, QStringLiteral("lbcClose"));
-        mouse(close, QEvent::MouseButtonPress, Qt::RightButton, QPoint(3, 3));
+        mouse(close, QEvent::MouseButtonPress, Qt::RightButton);
         QCOMPARE(close->frameShadow(), QFrame::Raised);
-        mouse(close, QEvent::MouseButtonRelease, Qt::RightButton, QPoint(3, 3));
+        mouse(close, QEvent::MouseButtonRelease, Qt::RightButton);
         flush();
         QVERIFY(panel->isVisible());
         QCOMPARE(close->frameShadow(), QFrame::Plain);
-        mouse(close, QEvent::MouseButtonPress, Qt::LeftButton, QPoint(3, 3));
-        mouse(close, QEvent::MouseButtonRelease, Qt::LeftButton, QPoint(3, 3));
+        mouse(close, QEvent::MouseButtonPress, Qt::LeftButton);
+        mouse(close, QEvent::MouseButtonRelease, Qt::LeftButton);
         flush();
         QVERIFY(!panel->isVisible());
         QCOMPARE(p->dialogs.asked.size(), std::size_t(1));

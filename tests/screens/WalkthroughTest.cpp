@@ -53,19 +53,9 @@ void click(QWidget* w, QPoint at = {}) {
 void click(QWidget* in, const QString& name) {
     click(named<QWidget>(in, name));
 }
-// A double click as the mouse makes it: press, release, double click, release.
-void doubleClick(QWidget* w, QPointF at) {
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-        const bool down = type != QEvent::MouseButtonRelease;
-        QMouseEvent e(type, at, w->mapToGlobal(at), Qt::LeftButton,
-                      down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(w, &e);
-    }
-    flush();
-}
 void doubleClickRow(QTableWidget* grid, int row) {
     doubleClick(grid->viewport(), grid->visualItemRect(grid->item(row, 0)).center());
+    flush();
 }
 void clickTab(QWidget* screen, int tab) {
     QTabBar* bar = named<QTabWidget>(screen, QStringLiteral("SSTab1"))->tabBar();
@@ -241,6 +231,7 @@ class WalkthroughTest : public QObject {
         clickTab(arcade, 0);
         for (int g = 1; g <= 2; ++g) {
             doubleClick(named<QWidget>(arcade, QStringLiteral("imgGame_%1").arg(g)), {10, 10});
+            flush();
             auto* price = named<QComboBox>(arcade, QStringLiteral("ddPrice"));
             const int wanted = g + 2; // $0.75 and $1
             for (int k = 0; k < 4 && price->currentIndex() != wanted; ++k)
