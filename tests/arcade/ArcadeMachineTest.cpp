@@ -177,10 +177,10 @@ TEST_F(Machine, MonthMovesPopularityTowardsClassic) {
     a.nextMonth(); // at the floor: no roll at all
     EXPECT_EQ(a.Pop, 10);
     EXPECT_EQ(a.Age, 3);
-    a.Classic = 20; // below the floor: raised to it, no roll either
+    a.Classic = 11; // one below the floor: raised to it, no roll either
     a.nextMonth();
-    EXPECT_EQ(a.Pop, 20);
-    EXPECT_EQ(a.cost, 800);
+    EXPECT_EQ(a.Pop, 11);
+    EXPECT_EQ(a.cost, 440);
     EXPECT_EQ(g().rng.draws(), draws);
 }
 
