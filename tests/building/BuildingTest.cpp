@@ -1,14 +1,6 @@
 #include "building/BuildingFixture.h"
 #include "building/BuildingTexts.h"
 #include "core/GameError.h"
-#include "core/LineFile.h"
-#include "session/Game.h"
-#include "support/TestSupport.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -54,46 +46,45 @@ TEST_F(BuildingFixture, APaymentClearsTheGatheredRent) {
     EXPECT_EQ(b().rent, 1000);
     EXPECT_EQ(money().totalspent, 4000); // rent charges no department
     EXPECT_EQ(money().deploan + money().depmovie + money().deplabor, 0);
-}
-
-TEST_F(BuildingFixture, RentOfExactlyOneIsStillRent) {
-    money().setFunds(100);
-    b().rent = 1.0;
+    b().rent = 1; // still rent
     b().payRent();
-    EXPECT_EQ(money().funds, 99);
-    b().rent = 0.99; // bought
+    EXPECT_EQ(money().funds, 6999);
+    b().rent = 0.99; // below a dollar: bought
     b().payRent();
-    EXPECT_EQ(money().funds, 99);
+    EXPECT_EQ(money().funds, 6999);
     EXPECT_EQ(b().rent, 0.99);
 }
 
-TEST_F(BuildingFixture, RentRisesEveryMonthUntilItIsPaid) {
+// The month's rent is paid in the month of a breakdown too, raised by inflation until paid.
+TEST_F(BuildingFixture, RentIsPaidEveryMonthAndRisesUntilItIsPaid) {
+    money().setFunds(100000);
+    game->rng.force(0.0);
+    b().buildingNextMonth();
+    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(b().condition, 89);
+    EXPECT_EQ(b().totalRentPaid, 7500);
+    EXPECT_EQ(money().funds, 92500);
     game->math.inflation = 10;
     game->math.buildingbreakdownchance = 0;
-    money().setFunds(100000);
     b().buildingNextMonth();
-    EXPECT_DOUBLE_EQ(b().totalRentPaid, 8250); // 7500 raised once
-    EXPECT_EQ(b().rent, 7500);                 // and back to the key
-    b().rent = 0;                              // bought
+    EXPECT_DOUBLE_EQ(b().totalRentPaid, 7500 + 8250); // 7500 raised once
+    EXPECT_EQ(b().rent, 7500);                        // and back to the key
+    b().rent = 0;                                     // bought
     b().buildingNextMonth();
     EXPECT_EQ(b().rent, 0);
-    EXPECT_DOUBLE_EQ(b().totalRentPaid, 8250);
+    EXPECT_DOUBLE_EQ(b().totalRentPaid, 7500 + 8250);
 }
 
 TEST_F(BuildingFixture, WearRoundsHalfToEven) {
     game->math.buildingbreakdownchance = 0;
     money().setFunds(1e9);
-    game->math.buildingconditiondrop = 1.5;
-    b().buildingNextMonth();
-    EXPECT_EQ(b().condition, 88); // 88.5 rounds to the even 88
-    b().buildingNextMonth();
-    EXPECT_EQ(b().condition, 86); // 86.5 to 86
-    game->math.buildingconditiondrop = 0.5;
-    b().buildingNextMonth();
-    EXPECT_EQ(b().condition, 86); // 85.5 rounds back up to 86: no wear at all
-    game->math.buildingconditiondrop = 0.4;
-    b().buildingNextMonth();
-    EXPECT_EQ(b().condition, 86);
+    // 88.5 to the even 88, 86.5 to 86, 85.5 back up to 86 (no wear at all), 85.6 to 86.
+    const double drops[][2] = {{1.5, 88}, {1.5, 86}, {0.5, 86}, {0.4, 86}};
+    for (const auto& [drop, condition] : drops) {
+        game->math.buildingconditiondrop = drop;
+        b().buildingNextMonth();
+        EXPECT_EQ(b().condition, condition) << drop;
+    }
 }
 
 TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
@@ -120,6 +111,7 @@ TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
     EXPECT_EQ(game->rng.forcedLeft(), 0u);
 }
 
+// A perfect house cannot break, a wreck always does, and its bills grow with the wear.
 TEST_F(BuildingFixture, APerfectHouseCannotBreakAndAWreckAlwaysDoes) {
     b().condition = 100;
     game->rng.force(0.0); // roll 1 against threshold 0
@@ -132,22 +124,9 @@ TEST_F(BuildingFixture, APerfectHouseCannotBreakAndAWreckAlwaysDoes) {
     EXPECT_FALSE(b().isInOrder());
     EXPECT_EQ(b().repairCost, 105 * 60);
     EXPECT_EQ(b().renovateCost, 105 * 800.0);
-}
-
-TEST_F(BuildingFixture, RentIsStillPaidInTheMonthOfTheBreakdown) {
-    money().setFunds(100000);
-    game->rng.force(0.0);
-    b().buildingNextMonth();
-    EXPECT_FALSE(b().isInOrder());
-    EXPECT_EQ(b().condition, 89);
-    EXPECT_EQ(b().totalRentPaid, 7500);
-    EXPECT_EQ(money().funds, 92500);
-}
-
-TEST_F(BuildingFixture, RepairCostOverflowIsFatal) {
+    EXPECT_EQ(buildingTexts(b(), game->calendar.currentyear).values[1], "5 %"); // digits only
     game->math.buildingrepaircost = Int16{400};
     b().condition = 10; // 90 * 400 passes 32767
-    b().IamBroken = true;
     EXPECT_THROW(b().computeCosts(), GameError);
 }
 
@@ -178,6 +157,7 @@ TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndOnlyWithTheMoney) {
     EXPECT_FALSE(buildingTexts(b(), game->calendar.currentyear).outOfOrder);
 }
 
+// A renovation sets the condition to 100 and resumes the clock, broken house or not.
 TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
     money().setFunds(100000);
     b().condition = 100;
@@ -185,6 +165,14 @@ TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
     b().renovateBuilding();
     EXPECT_EQ(screen.count("Your theater is already in good condition."), 1);
     EXPECT_EQ(money().funds, 100000);
+    game->setSpeed(3);
+    game->setSpeed(-1);
+    b().condition = 99;
+    b().showBuilding();
+    b().renovateBuilding();
+    EXPECT_EQ(b().condition, 100);
+    EXPECT_EQ(game->speed, 3);
+    EXPECT_EQ(money().funds, 100000 - 800);
 
     b().condition = 80;
     b().showBuilding(); // 20 * 800
@@ -201,18 +189,6 @@ TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
     EXPECT_EQ(b().condition, 100);
     EXPECT_TRUE(b().isInOrder());
     EXPECT_EQ(money().funds, 4000);
-}
-
-TEST_F(BuildingFixture, RenovatingASoundHouseStillResumesTheClock) {
-    money().setFunds(100000);
-    game->setSpeed(3);
-    game->setSpeed(-1);
-    b().condition = 99;
-    b().showBuilding();
-    b().renovateBuilding();
-    EXPECT_EQ(b().condition, 100);
-    EXPECT_EQ(game->speed, 3);
-    EXPECT_EQ(money().funds, 100000 - 800);
 }
 
 TEST_F(BuildingFixture, RemodelUpToTheMaximumEachDearerThanTheLast) {
@@ -274,9 +250,4 @@ TEST_F(BuildingFixture, PurchaseEndsTheRentAndItsDebt) {
     EXPECT_EQ(screen.lines.back(),
               "You have already purchased your building, you are no longer paying rent!");
     EXPECT_EQ(money().funds, 1);
-}
-
-TEST_F(BuildingFixture, TheConditionTextLosesItsSign) {
-    b().condition = -3; // digits only
-    EXPECT_EQ(buildingTexts(b(), game->calendar.currentyear).values[1], "3 %");
 }
