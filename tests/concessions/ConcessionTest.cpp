@@ -2,20 +2,11 @@
 
 #include "concessions/ConcessionTexts.h"
 #include "core/GameError.h"
-#include "core/LineFile.h"
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
 
-namespace {
-
-using ItemFixture = StandFixture;
-
-} // namespace
-
-TEST_F(ItemFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
+TEST_F(StandFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
     const Concession& c = item(3);
     EXPECT_EQ(c.num, 3);
     EXPECT_EQ(c.name, "Hot Dog");
@@ -33,7 +24,7 @@ TEST_F(ItemFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
 
 // A customer buys when the percent roll is at most 100 - price in cents * concessconsidercost
 // + the quality's bonus, not rounded (quality 1's bonus is 0.5 here).
-TEST_F(ItemFixture, TheChanceToBuyTable) {
+TEST_F(StandFixture, TheChanceToBuyTable) {
     game->math.concessconsiderqual[1] = 0.5;
     const struct {
         int quality;
@@ -64,7 +55,8 @@ TEST_F(ItemFixture, TheChanceToBuyTable) {
     EXPECT_EQ(game.screen.lines.size(), lines);
 }
 
-TEST_F(ItemFixture, ASaleBooksTheMarginUnderConcessions) {
+// The day's figures clear with the day, the month's with the month.
+TEST_F(StandFixture, ASaleBooksTheMarginUnderConcessions) {
     const double funds = game->finances.funds;
     item(0).sell();
     // Unit cost: 0.70 + (1 + 1) * 0.10 = 0.90, so the margin is 2.10.
@@ -75,15 +67,20 @@ TEST_F(ItemFixture, ASaleBooksTheMarginUnderConcessions) {
     EXPECT_EQ(item(0).thismonthsales, 1);
     EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, 2.1);
     EXPECT_DOUBLE_EQ(game->finances.funds, funds + 2.1);
-}
-
-TEST_F(ItemFixture, APriceBelowTheUnitCostEarnsANegativeAmount) {
-    item(0).setPrice(0.5);
+    item(0).setPrice(0.5); // below the unit cost: a negative amount
     item(0).sell();
-    EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, -0.4);
+    EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, 1.7);
+    item(0).nextDay();
+    EXPECT_EQ(item(0).todayssold, 0);
+    EXPECT_EQ(item(0).todaysprofit, 0);
+    EXPECT_EQ(item(0).thismonthsales, 2);
+    item(0).nextMonth();
+    EXPECT_EQ(item(0).lastmonthsales, 2);
+    EXPECT_EQ(item(0).thismonthsales, 0);
+    EXPECT_EQ(item(0).lastmonthincome, 0);
 }
 
-TEST_F(ItemFixture, TheLastUnitSellsAndTheNextCustomerIsToldOff) {
+TEST_F(StandFixture, TheLastUnitSellsAndTheNextCustomerIsToldOff) {
     item(0).stock = 1;
     game->rng.force({0.0, 0.0});
     item(0).sell_consider();
@@ -95,7 +92,7 @@ TEST_F(ItemFixture, TheLastUnitSellsAndTheNextCustomerIsToldOff) {
     EXPECT_TRUE(game->logSlots[5]);
 }
 
-TEST_F(ItemFixture, QualityIsClampedAndPriceMustBeAboveZero) {
+TEST_F(StandFixture, QualityIsClampedAndPriceMustBeAboveZero) {
     item(0).setQuality(5);
     EXPECT_EQ(item(0).getQuality(), 2);
     item(0).setQuality(-1);
@@ -113,26 +110,9 @@ TEST_F(ItemFixture, QualityIsClampedAndPriceMustBeAboveZero) {
     EXPECT_EQ(concessionListing(item(0), game->folder()).price, "$2.50");
 }
 
-TEST_F(ItemFixture, InflationRaisesTheCostNotThePrice) {
-    item(0).inflate();
-    EXPECT_DOUBLE_EQ(item(0).cost, 0.7 * 1.03);
-    EXPECT_EQ(item(0).price, 3);
-}
-
-TEST_F(ItemFixture, DayAndMonthCounters) {
-    item(0).sell();
-    item(0).sell();
-    item(0).nextDay();
-    EXPECT_EQ(item(0).todayssold, 0);
-    EXPECT_EQ(item(0).todaysprofit, 0);
-    EXPECT_EQ(item(0).thismonthsales, 2);
-    item(0).nextMonth();
-    EXPECT_EQ(item(0).lastmonthsales, 2);
-    EXPECT_EQ(item(0).thismonthsales, 0);
-    EXPECT_EQ(item(0).lastmonthincome, 0);
-}
-
-TEST_F(ItemFixture, TheMonthsPurchaseIsAllOrNothing) {
+// The month's order is bought whole or not at all, and a dollar must remain even for an
+// order of nothing; a negative order is taken as it stands.
+TEST_F(StandFixture, TheMonthsPurchaseIsAllOrNothing) {
     game->finances.setFunds(7.5); // the bill is 7.00: less than 1 would remain
     item(0).buyConcessions();
     EXPECT_EQ(item(0).stock, 10);
@@ -144,31 +124,25 @@ TEST_F(ItemFixture, TheMonthsPurchaseIsAllOrNothing) {
     item(0).buyConcessions(); // leaves exactly 1: accepted
     EXPECT_EQ(item(0).stock, 20);
     EXPECT_DOUBLE_EQ(game->finances.funds, 1);
-}
 
-TEST_F(ItemFixture, AnOrderOfNothingStillNeedsOneDollar) {
+    game->resetLogSlots();
     item(0).setBuyQuant(0);
     game->finances.setFunds(0.5);
     item(0).buyConcessions();
-    EXPECT_EQ(game.screen.count("Unable to buy Popcorn this month, not enough money!!"), 1);
-}
-
-TEST_F(ItemFixture, ANegativeOrderIsTakenAndTheStockFalls) {
+    EXPECT_EQ(game.screen.count("Unable to buy Popcorn this month, not enough money!!"), 2);
     item(0).setBuyQuant(-4);
-    const double funds = game->finances.funds;
+    game->finances.setFunds(10);
     item(0).buyConcessions();
-    EXPECT_EQ(item(0).stock, 6);
-    EXPECT_DOUBLE_EQ(game->finances.funds, funds + 2.8);
-}
-
-TEST_F(ItemFixture, StockOverflowIsFatal) {
+    EXPECT_EQ(item(0).stock, 16);
+    EXPECT_DOUBLE_EQ(game->finances.funds, 12.8);
+    item(0).setBuyQuant(10);
     item(0).stock = 32760;
     EXPECT_THROW(item(0).buyConcessions(), GameError);
 }
 
 // A saved game may give a quality the screen never offers: quality 3 finds a bonus no key
 // sets (0) and a unit cost of four steps; quality 4 is beyond the bonus table.
-TEST_F(ItemFixture, ALoadedQualityBeyondTheListStillSellsUntilTheTableEnds) {
+TEST_F(StandFixture, ALoadedQualityBeyondTheListStillSellsUntilTheTableEnds) {
     item(0).quality = 3;
     item(0).setPrice(3);
     game->rng.force({0.595, 0.605}); // chance 40: 60 and 61 both fail
