@@ -1,12 +1,8 @@
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "reputation/ReputationTexts.h"
-#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -23,15 +19,9 @@ struct PromoFixture : ::testing::Test {
     promoManager& promos() { return game->promos; }
 
     void SetUp() override {
-        MathVars& m = game->math;
-        const int points[] = {1, 3, 6, 10, 15};
-        const double costs[] = {18, 45, 75, 110, 150};
-        for (std::size_t i = 0; i < 5; ++i) {
-            m.promo[i] = points[i];
-            m.promocost[i] = costs[i];
-        }
-        m.promomax = 100;
-        m.inflation = 3;
+        game.math("promo0=1; promo1=3; promo2=6; promo3=10; promo4=15; promocost0=18;"
+                  "promocost1=45; promocost2=75; promocost3=110; promocost4=150; promomax=100;"
+                  "inflation=3");
         game->finances.setFunds(10000);
         promos().promosSetup();
     }
@@ -54,9 +44,6 @@ TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
     EXPECT_TRUE(v.rows.empty());
     EXPECT_EQ(v.currentPromoLevel, "0");
     EXPECT_EQ(v.totalDailyPayments, "$0");
-}
-
-TEST_F(PromoFixture, PointsAndCostOfTheRunningAds) {
     add(4, 2);
     add(1, 1);
     EXPECT_EQ(promos().getPromoPoints(), 33);
@@ -64,24 +51,18 @@ TEST_F(PromoFixture, PointsAndCostOfTheRunningAds) {
     EXPECT_EQ(promos().promoRunning[4], 2);
 }
 
-TEST_F(PromoFixture, ExactlyAtTheCapIsAccepted) {
-    add(4, 6); // 90
-    add(3, 1); // 100: exactly at promomax
-    EXPECT_EQ(promos().getPromoPoints(), 100);
-    EXPECT_EQ(game.screen.count(capMessage), 0);
-    add(0, 1); // 101: refused
-    EXPECT_EQ(promos().promoRunning[0], 0);
-    EXPECT_EQ(game.screen.count(capMessage), 1);
-    EXPECT_EQ(promos().getPromoPoints(), 100);
-}
-
-TEST_F(PromoFixture, OneBelowTheCapRefusesABiggerMedium) {
+TEST_F(PromoFixture, AnAdThatWouldPassTheCapIsRefusedOneThatReachesItIsNot) {
     add(4, 6);
     add(2, 1); // 96
     add(1, 1); // 99
     add(1, 1); // 102: refused
     EXPECT_EQ(promos().promoRunning[1], 1);
-    add(0, 1); // 100: accepted
+    EXPECT_EQ(game.screen.count(capMessage), 1);
+    add(0, 1); // 100: exactly at promomax
+    EXPECT_EQ(promos().getPromoPoints(), 100);
+    add(0, 1); // 101: refused
+    EXPECT_EQ(promos().promoRunning[0], 1);
+    EXPECT_EQ(game.screen.count(capMessage), 2);
     EXPECT_EQ(promos().getPromoPoints(), 100);
 }
 
@@ -116,15 +97,8 @@ TEST_F(PromoFixture, DropAndDropAll) {
     EXPECT_THROW(promos().dropPromo(-1), GameError);
 }
 
-TEST_F(PromoFixture, TheDailyChargeIsPaidUnderPromotions) {
-    add(4, 1);
-    add(1, 1);
-    promos().promosNextDay();
-    EXPECT_DOUBLE_EQ(game->finances.deppromo, 195);
-    EXPECT_DOUBLE_EQ(game->finances.funds, 10000 - 195);
-    EXPECT_EQ(promos().promoRunning[4], 1);
-}
-
+// The day's charge is paid under promotions, all or nothing: a refusal stops every ad, and
+// with nothing running the message still comes below one dollar.
 TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
     add(4, 1);
     add(1, 1);
@@ -142,11 +116,9 @@ TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
     promos().promosNextDay();
     EXPECT_EQ(promos().promoRunning[4], 1);
     EXPECT_DOUBLE_EQ(game->finances.funds, 1);
-}
-
-TEST_F(PromoFixture, WithNothingRunningTheMessageComesBelowOneDollar) {
+    EXPECT_DOUBLE_EQ(game->finances.deppromo, 195);
+    promos().dropAllPromos();
     game->finances.setFunds(0.5);
-    promos().promosNextDay();
     promos().promosNextDay();
     EXPECT_EQ(game.screen.count(stopMessage), 2);
 }

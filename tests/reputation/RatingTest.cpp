@@ -1,12 +1,8 @@
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "reputation/ReputationTexts.h"
-#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -51,6 +47,8 @@ TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     const std::array<int, 11> t = rating().dayTerms();
     EXPECT_EQ(t[4], 25);
     EXPECT_EQ(rating().ratingOfTheDay(), 25);
+    (*game)->math.ratingconcessions = 200;
+    EXPECT_EQ(rating().ratingOfTheDay(), 100); // clamped
 }
 
 TEST_F(RatingFixture, TheDailyAverageIsFloored) {
@@ -72,13 +70,6 @@ TEST_F(RatingFixture, TheDailyAverageIsFloored) {
     EXPECT_EQ(rating().currentRating, 50);
     EXPECT_EQ(rating().currentAverage, 68); // (87 + 50) / 2
     EXPECT_EQ(ratingBarWidth(rating(), 1001), 500);
-}
-
-TEST_F(RatingFixture, TheSumClampsAtOneHundred) {
-    qualities(2);
-    (*game)->math.ratingconcessions = 200;
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 100);
 }
 
 TEST_F(RatingFixture, StartDrawsEveryBarEmpty) {
@@ -111,10 +102,7 @@ TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     EXPECT_EQ(rating().bars()[3].colour, 0x80FFFFu);
     EXPECT_EQ(rating().bars()[3].height, 411);
     EXPECT_EQ(rating().history[3], 57);
-}
-
-TEST_F(RatingFixture, AMonthOutOfRangeIsABoundsError) {
-    (*game)->calendar.currentmonth = 12;
+    (*game)->calendar.currentmonth = 12; // out of range
     EXPECT_THROW(rating().ratingNextMonth(), GameError);
 }
 
