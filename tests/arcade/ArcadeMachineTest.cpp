@@ -184,14 +184,6 @@ TEST_F(Machine, MonthMovesPopularityTowardsClassic) {
     EXPECT_EQ(g().rng.draws(), draws);
 }
 
-TEST_F(Machine, BrokenPriceIsReducedButCostIsWhole) {
-    auto t = title(1, "Zap", 50);
-    EXPECT_EQ(t->getPrice(), 2000);
-    t->IamBroke = true;
-    EXPECT_EQ(t->getCost(), 2000);
-    EXPECT_EQ(t->getPrice(), 500);
-}
-
 TEST_F(Machine, CabinetFileNamePadding) {
     EXPECT_EQ(arcade::cabinetFileName(1, false), "001L.gif");
     EXPECT_EQ(arcade::cabinetFileName(6, true), "006R.gif");
@@ -206,6 +198,7 @@ TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
     t->myCabLeft = ArcadeRoom::defaultDividerX; // on the line: still the left picture
     arcade& a = addMachine(t);
     EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003L.gif"));
+    EXPECT_EQ(am().room.cabinet(1).width, ArcadeRoom::templateWidth); // no file: its own size
     // One twip over the line flips it.
     am().moveCabinet(1, 101, 50, 100, 50);
     EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::defaultDividerX + 1);
@@ -215,24 +208,29 @@ TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
     EXPECT_EQ(a.myCabLeft, ArcadeRoom::defaultDividerX);
 }
 
+// Here the picture is a GIF header of 80 x 100 pixels: the cabinet takes its size.
 TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
+    dir.write("images/arcades/001L.gif",
+              std::string("GIF89a\x50\x00\x64\x00", 10) + std::string(20, '\0'));
     arcade& a = addMachine(title(1, "Zap", 50));
     const ArcadeCabinet& cab = am().room.cabinet(1);
     const ArcadeTitle& t = am().room.title(1);
     EXPECT_EQ(cab.left, ArcadeRoom::templateLeft);
     EXPECT_EQ(cab.top, ArcadeRoom::templateTop);
+    EXPECT_EQ(cab.width, 1200);
+    EXPECT_EQ(cab.height, 1500);
     EXPECT_TRUE(cab.visible && t.visible);
     EXPECT_EQ(t.caption, "Zap");
     EXPECT_EQ(t.top, cab.top - 360);
-    // width 3 * 90 = 270; left = left + 960 / 2 - Int(135)
-    EXPECT_EQ(t.left, ArcadeRoom::templateLeft + 480 - 135);
+    // width 3 * 90 = 270; left = left + 1200 / 2 - Int(135)
+    EXPECT_EQ(t.left, ArcadeRoom::templateLeft + 600 - 135);
     // An odd half width is floored: 5 characters, 450 wide, half 225.
     a.setName("Zappo");
     a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 225);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 225);
     am().room.title(1).width = 301; // half 150.5 floors to 150
     a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 150);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 150);
 }
 
 // The player's edits: an empty name and a style outside 1 to arcadeimages are ignored, and a
@@ -251,18 +249,6 @@ TEST_F(Machine, NameAndStyleEditsOutsideTheirRangeAreIgnored) {
     EXPECT_EQ(a.CabinetImageFileNumber, 1);
     am().setCabinetNum(1, 6);
     EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006L.gif"));
-}
-
-TEST_F(Machine, CabinetTakesItsPictureSizeFromTheGif) {
-    // A GIF header of 80 x 100 pixels.
-    dir.write("images/arcades/002L.gif",
-              std::string("GIF89a\x50\x00\x64\x00", 10) + std::string(20, '\0'));
-    auto t = title(1, "Zap", 50);
-    t->CabinetImageFileNumber = 2;
-    addMachine(t);
-    EXPECT_EQ(am().room.cabinet(1).width, 1200);
-    EXPECT_EQ(am().room.cabinet(1).height, 1500);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 135);
 }
 
 } // namespace
