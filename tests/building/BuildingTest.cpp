@@ -6,6 +6,8 @@ using namespace zorvane;
 using namespace zorvane::test;
 
 TEST_F(BuildingFixture, UnpaidRentWarnsGracePlusOneTimesThenLoses) {
+    const std::string warning = "You have not paid your rent this month, if you go 2 month(s) "
+                                "without paying rent you will lose this game!";
     game->math.buildingrentgrace = Int16{2};
     game->math.buildingrent = 1000;
     b().rent = 1000;
@@ -14,14 +16,14 @@ TEST_F(BuildingFixture, UnpaidRentWarnsGracePlusOneTimesThenLoses) {
         b().payRent();
         EXPECT_EQ(b().monthsWithoutPayingRent, month);
         EXPECT_EQ(b().rent, 1000.0 * (month + 1)); // the debt gathers
-        EXPECT_EQ(screen.count(rentWarning(2)), month);
+        EXPECT_EQ(screen.count(warning), month);
         EXPECT_EQ(game->loseShown, 0) << "lost too early, month " << month;
     }
     b().payRent();
     EXPECT_EQ(game->loseShown, 1);
     EXPECT_EQ(screen.loseShown, 1);
-    EXPECT_EQ(screen.count(rentWarning(2)), 3); // the last warning stands last
-    EXPECT_EQ(screen.lines.back(), rentWarning(2));
+    EXPECT_EQ(screen.count(warning), 3); // the last warning stands last
+    EXPECT_EQ(screen.lines.back(), warning);
     EXPECT_EQ(b().rent, 4000);
     EXPECT_EQ(b().monthsWithoutPayingRent, 3);
     EXPECT_EQ(money().funds, 500);
@@ -87,7 +89,13 @@ TEST_F(BuildingFixture, WearRoundsHalfToEven) {
     }
 }
 
+// One percent roll against the wear times the key: a perfect house cannot break, a wreck
+// always does, and a broken house is rolled for too.
 TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
+    b().condition = 100;
+    game->rng.force(0.0); // roll 1 against threshold 0
+    b().rollBuildingBreakdown();
+    EXPECT_TRUE(b().isInOrder());
     game->math.buildingbreakdownchance = 0.5;
     b().condition = 80; // threshold 10
     game->setSpeed(2);
@@ -104,24 +112,12 @@ TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
     EXPECT_EQ(game->lastSpeed, 2);
     EXPECT_EQ(b().repairCost, 20 * 60);
     EXPECT_TRUE(buildingTexts(b(), game->calendar.currentyear).outOfOrder);
-    // A broken house is rolled for too, and breaks down again.
-    game->rng.force(0.0);
-    b().rollBuildingBreakdown();
-    EXPECT_EQ(screen.count(" !!!  YOUR THEATER HAS BROKE DOWN !!! "), 2);
-    EXPECT_EQ(game->rng.forcedLeft(), 0u);
-}
-
-// A perfect house cannot break, a wreck always does, and its bills grow with the wear.
-TEST_F(BuildingFixture, APerfectHouseCannotBreakAndAWreckAlwaysDoes) {
-    b().condition = 100;
-    game->rng.force(0.0); // roll 1 against threshold 0
-    b().rollBuildingBreakdown();
-    EXPECT_TRUE(b().isInOrder());
     game->math.buildingbreakdownchance = 1;
     b().condition = -5;     // allowed: threshold 105
     game->rng.force(0.999); // roll 100
     b().rollBuildingBreakdown();
-    EXPECT_FALSE(b().isInOrder());
+    EXPECT_EQ(screen.count(" !!!  YOUR THEATER HAS BROKE DOWN !!! "), 2);
+    EXPECT_EQ(game->rng.forcedLeft(), 0u);
     EXPECT_EQ(b().repairCost, 105 * 60);
     EXPECT_EQ(b().renovateCost, 105 * 800.0);
     EXPECT_EQ(buildingTexts(b(), game->calendar.currentyear).values[1], "5 %"); // digits only
@@ -191,7 +187,22 @@ TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
     EXPECT_EQ(money().funds, 4000);
 }
 
+// A remodel adds its seats and its condition (rounded half to even, at most 100) for the
+// seats already there times the key, up to the maximum.
 TEST_F(BuildingFixture, RemodelUpToTheMaximumEachDearerThanTheLast) {
+    game->math.buildingremodelcondition = 2.5;
+    b().condition = 80;
+    money().setFunds(180000); // the cost is 120 * 1500: less than 1 would remain
+    b().remodel();
+    EXPECT_EQ(screen.lines.back(),
+              "You can't afford to remodel!  Perhaps you could take out a loan?");
+    EXPECT_EQ(b().seating, 120);
+    money().setFunds(180001);
+    b().remodel();
+    EXPECT_EQ(b().condition, 82); // 82.5 to the even 82
+    EXPECT_EQ(b().seating, 170);
+
+    game->math.buildingremodelcondition = 10;
     money().setFunds(10000000);
     b().seating = 220;
     b().computeRemodelCost();
@@ -212,20 +223,6 @@ TEST_F(BuildingFixture, RemodelUpToTheMaximumEachDearerThanTheLast) {
     EXPECT_EQ(b().seating, 320);
     EXPECT_EQ(money().funds, before);
     EXPECT_EQ(screen.refreshes(View::Building), refreshesBefore); // nothing is refreshed
-}
-
-TEST_F(BuildingFixture, RemodelRoundsTheConditionAndCanBeRefused) {
-    game->math.buildingremodelcondition = 2.5;
-    b().condition = 80;
-    money().setFunds(180000); // the cost is 180000: less than 1 would remain
-    b().remodel();
-    EXPECT_EQ(screen.lines.back(),
-              "You can't afford to remodel!  Perhaps you could take out a loan?");
-    EXPECT_EQ(b().seating, 120);
-    money().setFunds(180001);
-    b().remodel();
-    EXPECT_EQ(b().condition, 82); // 82.5 to the even 82
-    EXPECT_EQ(b().seating, 170);
 }
 
 TEST_F(BuildingFixture, PurchaseEndsTheRentAndItsDebt) {
