@@ -58,30 +58,25 @@ TEST_F(StandFixture, AllOutOfStockGivesOneLineForTheLowestItem) {
     EXPECT_EQ(game.screen.lines.size(), 2u);
 }
 
+// 50 points an item at quality 1, 100 at 2, the sum divided by four and floored; a quality 3
+// from a saved game counts nothing.
 TEST_F(StandFixture, QualityScoreDividesByFour) {
-    for (int i = 0; i < 5; ++i)
-        item(i).setQuality(2);
-    EXPECT_EQ(stand().getQualityScore(), 125);
-    for (int i = 0; i < 5; ++i)
-        item(i).setQuality(0);
-    EXPECT_EQ(stand().getQualityScore(), 0);
-    item(3).setQuality(1);
-    EXPECT_EQ(stand().getQualityScore(), 12); // floor of 12.5
-    item(0).setQuality(2);
-    item(1).setQuality(2);
-    EXPECT_EQ(stand().getQualityScore(), 62); // 250 / 4
-    item(0).quality = 3;                      // from a saved game: counts nothing
-    EXPECT_EQ(stand().getQualityScore(), 37);
+    const struct {
+        const char* qualities; // of the five items
+        int score;
+    } rows[] = {{"22222", 125}, {"00000", 0}, {"00010", 12}, {"22010", 62}, {"32010", 37}};
+    for (const auto& r : rows) {
+        for (int i = 0; i < 5; ++i)
+            item(i).quality = r.qualities[i] - '0';
+        EXPECT_EQ(stand().getQualityScore(), r.score) << r.qualities;
+    }
 }
 
 TEST_F(StandFixture, MoneyForTwoItemsOnly) {
     game->finances.setFunds(15); // 7 + 7 leaves 1; the third bill is refused
     stand().concessionsNextMonth();
-    EXPECT_EQ(item(0).stock, 20);
-    EXPECT_EQ(item(1).stock, 20);
-    EXPECT_EQ(item(2).stock, 10);
-    EXPECT_EQ(item(3).stock, 10);
-    EXPECT_EQ(item(4).stock, 10);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(item(i).stock, i < 2 ? 20 : 10) << i;
     EXPECT_DOUBLE_EQ(game->finances.funds, 1);
     // One message: the slot is shared by all five items.
     EXPECT_EQ(game.screen.lines,

@@ -51,24 +51,19 @@ TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     EXPECT_EQ(rating().ratingOfTheDay(), 100); // clamped
 }
 
+// A score of 125 weighted 80 is a rating of 100, weighted 40 one of 50; each day the
+// average moves halfway to the day's rating, floored.
 TEST_F(RatingFixture, TheDailyAverageIsFloored) {
     qualities(2);
-    (*game)->math.ratingconcessions = 80; // 125 * 0.8 = 100
     rating().currentAverage = 0;
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 100);
-    EXPECT_EQ(rating().currentAverage, 50);
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentAverage, 75);
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentAverage, 87); // 87.5 floored
-    EXPECT_EQ(ratingCaption(rating()), "100 %");
-    EXPECT_EQ(ratingBarWidth(rating(), 1500), 1500);
-
-    (*game)->math.ratingconcessions = 40; // 50
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 50);
-    EXPECT_EQ(rating().currentAverage, 68); // (87 + 50) / 2
+    const int days[][3] = {{80, 100, 50}, {80, 100, 75}, {80, 100, 87}, {40, 50, 68}};
+    for (const auto& [weight, day, average] : days) {
+        (*game)->math.ratingconcessions = weight;
+        rating().ratingNextDay();
+        EXPECT_EQ(rating().currentRating, day);
+        EXPECT_EQ(rating().currentAverage, average) << weight << " " << day;
+    }
+    EXPECT_EQ(ratingCaption(rating()), "50 %");
     EXPECT_EQ(ratingBarWidth(rating(), 1001), 500);
 }
 
