@@ -37,43 +37,36 @@ TEST_F(Room, VisitorsFollowTheCrowdRuleWithTheArcadesShare) {
     EXPECT_THROW(am().doArcadeBusiness(0), GameError);
 }
 
+// Two visitors meet two machines of popularity 10, and every play of the crowd lowers every
+// later chance by one. A machine that breaks draws no more rolls, unless auto-repair mends it
+// at once, and then it plays on at the crowd's lowered chance.
 TEST_F(Room, PlaysOfTheWholeCrowdLowerEveryLaterChance) {
-    arcade& one = addMachine(title(1, "One", 10));
-    arcade& two = addMachine(title(2, "Two", 10));
-    g().math.percentarcade = 2; // a crowd of 100: two visitors
-    g().rng.force({
-        roll(10), 0.9, // visitor 1, machine 1: chance 10, plays
-        roll(9), 0.9,  // visitor 1, machine 2: chance 9, plays
-        roll(9),       // visitor 2, machine 1: chance 8, no play
-        roll(8), 0.9,  // visitor 2, machine 2: chance 8, plays
-    });
-    am().doArcadeBusiness(100);
-    EXPECT_EQ(g().rng.forcedLeft(), 0u);
-    EXPECT_EQ(one.TotalPlays, 1);
-    EXPECT_EQ(two.TotalPlays, 2);
-}
-
-// A breakdown halfway through a crowd: the broken machine draws no more rolls, unless
-// auto-repair mends it at once, and then it plays on at the crowd's lowered chance.
-TEST_F(Room, AMachineThatBreaksMidCrowdPlaysOnOnlyWhenRepairedAtOnce) {
-    for (const bool autoRepair : {false, true}) {
-        SCOPED_TRACE(autoRepair ? "auto-repair" : "no auto-repair");
-        am().setAutoRepair(autoRepair);
+    const struct {
+        const char* what;
+        bool autoRepair;
+        std::vector<double> rolls; // visitor 1 meets machines 1 and 2, then visitor 2
+        int onePlays;
+        bool oneBroken;
+    } cases[] = {
+        {"a miss at chance 8", false, {roll(10), .9, roll(9), .9, roll(9), roll(8), .9}, 1, false},
+        {"machine 1 breaks", false, {roll(10), 0, roll(9), .9, roll(8), .9}, 1, true},
+        {"and is mended", true, {roll(10), 0, roll(9), .9, roll(8), .9, roll(7), .9}, 2, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        am().setAutoRepair(c.autoRepair);
         g().finances.setFunds(1000);
         while (am().getMachineCount() > 0)
             am().removeFromMyGames(1);
         arcade& one = addMachine(title(1, "One", 10));
         arcade& two = addMachine(title(2, "Two", 10));
-        g().math.percentarcade = 2;                   // a crowd of 100: two visitors
-        g().rng.force({roll(10), 0.0, roll(9), 0.9}); // visitor 1: one breaks, two plays
-        if (autoRepair)
-            g().rng.force({roll(8), 0.9, roll(7), 0.9}); // visitor 2 plays both
-        else
-            g().rng.force({roll(8), 0.9}); // visitor 2 plays two only
+        g().math.percentarcade = 2; // a crowd of 100: two visitors
+        for (const double r : c.rolls)
+            g().rng.force(r);
         am().doArcadeBusiness(100);
         EXPECT_EQ(g().rng.forcedLeft(), 0u);
-        EXPECT_EQ(one.TotalPlays, autoRepair ? 2 : 1);
-        EXPECT_EQ(one.getIamBroke(), !autoRepair);
+        EXPECT_EQ(one.TotalPlays, c.onePlays);
+        EXPECT_EQ(one.getIamBroke(), c.oneBroken);
         EXPECT_EQ(two.TotalPlays, 2);
     }
 }
@@ -273,7 +266,7 @@ TEST_F(Room, SoldTitleDrawnAgainComesBackAsItWas) {
     EXPECT_TRUE(am().myGameAt(1).IamBroke);
 }
 
-TEST_F(Room, MonthReleasesThenAgesTheRoom) {
+TEST_F(Room, MonthReleasesThenAgesTheRoomAndTheYearInflates) {
     am().loadGamesList();
     g().math.arcadenewgamespermonth = 1;
     addMachine(title(9, "Mine", 50, 10));
@@ -287,14 +280,10 @@ TEST_F(Room, MonthReleasesThenAgesTheRoom) {
     EXPECT_EQ(am().myGameAt(1).Pop, 47);
     EXPECT_EQ(am().myGameAt(1).Age, 1);
     EXPECT_EQ(am().buyGameAt(1).Age, onOfferAge);
-}
-
-TEST_F(Room, YearInflatesOnlyTheMarket) {
-    arcade& mine = addMachine(title(1, "Mine", 50));
-    am().buyGames.push_back(title(2, "Offer", 50));
-    am().arcadesNextYear();
+    am().buyGameAt(1).cost = 2000;
+    am().arcadesNextYear(); // the year inflates the market only
     EXPECT_DOUBLE_EQ(am().buyGameAt(1).getCost(), 2060);
-    EXPECT_EQ(mine.getCost(), 2000);
+    EXPECT_EQ(am().myGameAt(1).getCost(), 1880);
 }
 
 TEST_F(Room, LoadClosesADetailsPanelBeyondTheRoom) {
