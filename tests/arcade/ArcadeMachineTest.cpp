@@ -57,20 +57,18 @@ TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
     EXPECT_EQ(g().finances.incdeparcade, 0.5);
     EXPECT_EQ(g().finances.funds, 10000.5);
     EXPECT_FALSE(a.IamBroke);
-    a.setPricePerPlay(5); // no range check when set, but a play looks the price up
-    EXPECT_THROW(a.play(a.playTerms(), 0, g().rng), GameError);
-}
-
-TEST_F(Machine, FreePlayPlaysAtPopularityAndABrokenMachineDrawsNothing) {
-    arcade& a = addMachine(title(1, "Zap", 40));
-    g().rng.force({roll(40), 0.0}); // roll 40 = Pop; the breakdown roll 1
+    // Free play plays at the popularity; a broken machine then draws nothing.
+    a.PricePerPlay = 0;
+    g().rng.force({roll(60), 0.0}); // the breakdown roll 1
     EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_EQ(a.TotalPlays, 1);
-    EXPECT_EQ(a.Income, 0);
+    EXPECT_EQ(a.Income, 0.5);
     EXPECT_TRUE(a.IamBroke);
     g().rng.force(roll(1));
     EXPECT_FALSE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_EQ(g().rng.forcedLeft(), 1u);
+    a.setPricePerPlay(5); // no range check when set, but a play looks the price up
+    a.IamBroke = false;
+    EXPECT_THROW(a.play(a.playTerms(), 0, g().rng), GameError);
 }
 
 TEST_F(Machine, BreakdownOnARollOfOneRefundsThePlayAndKeepsTheTotals) {

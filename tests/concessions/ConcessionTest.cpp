@@ -8,7 +8,6 @@ using namespace zorvane::test;
 
 TEST_F(StandFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
     const Concession& c = item(3);
-    EXPECT_EQ(c.num, 3);
     EXPECT_EQ(c.name, "Hot Dog");
     EXPECT_EQ(c.quality, 1);
     EXPECT_EQ(c.price, 3);
@@ -46,13 +45,6 @@ TEST_F(StandFixture, TheChanceToBuyTable) {
         item(0).sell_consider();
         EXPECT_EQ(item(0).todayssold - before, r.sells ? 1 : 0) << r.price << " " << r.draw;
     }
-    // A chance that fails tells nothing of a shortage.
-    item(0).stock = 0;
-    item(0).setPrice(10);
-    const std::size_t lines = game.screen.lines.size();
-    game->rng.force(0.0);
-    item(0).sell_consider();
-    EXPECT_EQ(game.screen.lines.size(), lines);
 }
 
 // The day's figures clear with the day, the month's with the month.
@@ -90,6 +82,11 @@ TEST_F(StandFixture, TheLastUnitSellsAndTheNextCustomerIsToldOff) {
     EXPECT_EQ(game.screen.lines, (std::vector<std::string>{
                                      "I was unable to sell any Popcorn today, out of stock!!!"}));
     EXPECT_TRUE(game->logSlots[5]);
+    game->resetLogSlots();
+    item(0).setPrice(10); // a chance that fails tells nothing of the shortage
+    game->rng.force(0.0);
+    item(0).sell_consider();
+    EXPECT_EQ(game.screen.lines.size(), 1u);
 }
 
 TEST_F(StandFixture, QualityIsClampedAndPriceMustBeAboveZero) {
