@@ -22,7 +22,8 @@ TEST_F(StandFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
 }
 
 // A customer buys when the percent roll is at most 100 - price in cents * concessconsidercost
-// + the quality's bonus, not rounded (quality 1's bonus is 0.5 here).
+// + the quality's bonus, not rounded (quality 1's bonus is 0.5 here). A saved game may give a
+// quality the screen never offers: 3 finds a bonus no key sets (0), 4 is beyond the table.
 TEST_F(StandFixture, TheChanceToBuyTable) {
     game->math.concessconsiderqual[1] = 0.5;
     const struct {
@@ -36,15 +37,20 @@ TEST_F(StandFixture, TheChanceToBuyTable) {
         {1, 2.25, 0.545, true},  {1, 2.25, 0.555, false}, // 55.5: rolls 55 and 56
         {1, 10, 0.0, false},                              // -99.5: not even roll 1
         {2, 0.01, 0.9999, true},                          // 109.8: even roll 100
+        {3, 3, 0.395, true},     {3, 3, 0.405, false},    // 40
     };
     for (const auto& r : rows) {
-        item(0).setQuality(r.quality);
+        item(0).quality = r.quality;
         item(0).setPrice(r.price);
         const int before = item(0).todayssold;
         game->rng.force(r.draw);
         item(0).sell_consider();
-        EXPECT_EQ(item(0).todayssold - before, r.sells ? 1 : 0) << r.price << " " << r.draw;
+        EXPECT_EQ(item(0).todayssold - before, r.sells ? 1 : 0)
+            << r.quality << " " << r.price << " " << r.draw;
     }
+    EXPECT_DOUBLE_EQ(item(0).getUnitCost(), 0.7 + 4 * 0.1); // four steps at quality 3
+    item(0).quality = 4;
+    EXPECT_THROW(item(0).sell_consider(), GameError);
 }
 
 // The day's figures clear with the day, the month's with the month.
@@ -135,23 +141,6 @@ TEST_F(StandFixture, TheMonthsPurchaseIsAllOrNothing) {
     item(0).setBuyQuant(10);
     item(0).stock = 32760;
     EXPECT_THROW(item(0).buyConcessions(), GameError);
-}
-
-// A saved game may give a quality the screen never offers: quality 3 finds a bonus no key
-// sets (0) and a unit cost of four steps; quality 4 is beyond the bonus table.
-TEST_F(StandFixture, ALoadedQualityBeyondTheListStillSellsUntilTheTableEnds) {
-    item(0).quality = 3;
-    item(0).setPrice(3);
-    game->rng.force({0.595, 0.605}); // chance 40: 60 and 61 both fail
-    item(0).sell_consider();
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).todayssold, 0);
-    game->rng.force(0.395);
-    item(0).sell_consider();
-    EXPECT_EQ(item(0).todayssold, 1);
-    EXPECT_DOUBLE_EQ(item(0).todaysprofit, 3 - (0.7 + 4 * 0.1));
-    item(0).quality = 4;
-    EXPECT_THROW(item(0).sell_consider(), GameError);
 }
 
 // What the "Buy per month" box orders for what a player typed: the leading number, ties to

@@ -35,20 +35,19 @@ struct RatingFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(RatingFixture, WithNothingToCountTheRatingIsOne) {
+// With nothing to count the rating is 1; the stand's term is its weight's percent of the
+// quality score, and the sum is clamped to 100.
+TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     rating().ratingNextDay();
     EXPECT_EQ(rating().getRating(), 1);
     EXPECT_EQ(rating().dayTerms(), (std::array<int, 11>{}));
-}
-
-TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     qualities(2);
     (*game)->math.ratingconcessions = 20;
     const std::array<int, 11> t = rating().dayTerms();
     EXPECT_EQ(t[4], 25);
     EXPECT_EQ(rating().ratingOfTheDay(), 25);
     (*game)->math.ratingconcessions = 200;
-    EXPECT_EQ(rating().ratingOfTheDay(), 100); // clamped
+    EXPECT_EQ(rating().ratingOfTheDay(), 100);
 }
 
 // A score of 125 weighted 80 is a rating of 100, weighted 40 one of 50; each day the
@@ -67,19 +66,17 @@ TEST_F(RatingFixture, TheDailyAverageIsFloored) {
     EXPECT_EQ(ratingBarWidth(rating(), 1001), 500);
 }
 
-TEST_F(RatingFixture, StartDrawsEveryBarEmpty) {
+// Start-up draws every bar empty, January's green; a month's end keeps its rating (not the
+// average) in its bar, and a new year paints the bars neutral.
+TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     const auto& bars = rating().bars();
     for (int m = 0; m < 12; ++m) {
         EXPECT_EQ(bars[m].top, 2820) << m;
         EXPECT_EQ(bars[m].height, 0) << m;
         EXPECT_EQ(bars[m].tip, "0%") << m;
     }
-    // Start-up stands on January: its bar is green, the rest neutral.
     EXPECT_EQ(bars[0].colour, 0x00C000u);
     EXPECT_EQ(bars[1].colour, 0x80FFFFu);
-}
-
-TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     (*game)->calendar.currentmonth = 3;
     rating().currentRating = 57;
     rating().currentAverage = 40;
@@ -91,8 +88,6 @@ TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     EXPECT_EQ(bar.height, 411);
     EXPECT_EQ(bar.colour, 0x00C000u);
     EXPECT_EQ(bar.tip, "57%");
-
-    // A new year paints the bars neutral and leaves their heights.
     rating().ratingNextYear();
     EXPECT_EQ(rating().bars()[3].colour, 0x80FFFFu);
     EXPECT_EQ(rating().bars()[3].height, 411);
