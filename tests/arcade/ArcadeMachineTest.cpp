@@ -99,7 +99,7 @@ TEST_F(Machine, RefundThatFundsCannotCoverIsDroppedSilently) {
     EXPECT_TRUE(a.IamBroke);
     EXPECT_DOUBLE_EQ(g().finances.funds, 1.1);
     EXPECT_EQ(g().finances.totalspent, 0);
-    EXPECT_EQ(screen().lines, std::vector<std::string>{"The arcade machine Zap has broke down."});
+    EXPECT_EQ(tg->screen.lines, std::vector<std::string>{"The arcade machine Zap has broke down."});
 }
 
 // A repair costs arcaderepaircost a month of age: a new machine's is $0, and even that needs
@@ -190,7 +190,9 @@ TEST_F(Machine, CabinetFileNamePadding) {
     EXPECT_EQ(arcade::cabinetFileName(1234, false), "1234L.gif");
 }
 
-TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
+// A cabinet faces the room's centre by the divider. Of the player's edits, an empty name and a
+// style outside 1 to arcadeimages are ignored, and a new name is not re-centred.
+TEST_F(Machine, CabinetFacesTheRoomCentreByTheDividerAndTakesThePlayersEdits) {
     auto t = title(1, "Zap", 50);
     t->CabinetImageFileNumber = 3;
     t->myCabLeft = ArcadeRoom::defaultDividerX; // on the line: still the left picture
@@ -204,6 +206,18 @@ TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
     EXPECT_EQ(a.cabinetPicturePath, am().room.cabinet(1).picture);
     // The saved place is not written by a move.
     EXPECT_EQ(a.myCabLeft, ArcadeRoom::defaultDividerX);
+    const float left = am().room.title(1).left;
+    am().renameGame(1, "");
+    EXPECT_EQ(am().room.title(1).caption, "Zap");
+    am().renameGame(1, "Longer Name");
+    EXPECT_EQ(a.Name, "Longer Name");
+    EXPECT_EQ(am().room.title(1).caption, "Longer Name");
+    EXPECT_EQ(am().room.title(1).left, left);
+    am().setCabinetNum(1, 0);
+    am().setCabinetNum(1, 7);
+    EXPECT_EQ(a.CabinetImageFileNumber, 3);
+    am().setCabinetNum(1, 6);
+    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006R.gif"));
 }
 
 // Here the picture is a GIF header of 80 x 100 pixels: the cabinet takes its size.
@@ -229,24 +243,6 @@ TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
     am().room.title(1).width = 301; // half 150.5 floors to 150
     a.positionTitle(1);
     EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 150);
-}
-
-// The player's edits: an empty name and a style outside 1 to arcadeimages are ignored, and a
-// new name is not re-centred.
-TEST_F(Machine, NameAndStyleEditsOutsideTheirRangeAreIgnored) {
-    arcade& a = addMachine(title(1, "Zap", 50));
-    const float left = am().room.title(1).left;
-    am().renameGame(1, "");
-    EXPECT_EQ(am().room.title(1).caption, "Zap");
-    am().renameGame(1, "Longer Name");
-    EXPECT_EQ(a.Name, "Longer Name");
-    EXPECT_EQ(am().room.title(1).caption, "Longer Name");
-    EXPECT_EQ(am().room.title(1).left, left);
-    am().setCabinetNum(1, 0);
-    am().setCabinetNum(1, 7);
-    EXPECT_EQ(a.CabinetImageFileNumber, 1);
-    am().setCabinetNum(1, 6);
-    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006L.gif"));
 }
 
 } // namespace

@@ -79,7 +79,9 @@ TEST_F(Room, AveragePopularityIsFloored) {
     EXPECT_EQ(am().getAveragePop(), 10); // 32 / 3
 }
 
-TEST_F(Room, TrimDropsTheWeakestFirstOfEquals) {
+// The trim drops the weakest (the first of equals) until the month's titles fit, and is
+// refused when it cannot choose or cannot make room.
+TEST_F(Room, TrimDropsTheWeakestFirstOfEqualsOrIsRefused) {
     const int pops[] = {50, 20, 70, 20, 90, 15, 60, 40, 80};
     for (int i = 0; i < 9; ++i) {
         am().buyGames.push_back(title(i + 1, "T" + std::to_string(i + 1), pops[i]));
@@ -92,11 +94,10 @@ TEST_F(Room, TrimDropsTheWeakestFirstOfEquals) {
         EXPECT_EQ(am().buyGameAt(i + 1).getOriginalNum(), expected[i]);
         EXPECT_EQ(am().buyGameAt(i + 1).getNum(), i + 1);
     }
-}
-
-TEST_F(Room, TrimThatCannotChooseOrCannotMakeRoomIsRefused) {
-    for (int i = 0; i < 9; ++i)
-        am().buyGames.push_back(title(i + 1, "T", i == 4 ? 100 : 100 + i));
+    // With no title below arcadepopmax there is nothing to choose.
+    for (const auto& t : am().buyGames)
+        t->Pop = 100;
+    am().buyGames.push_back(title(10, "T", 100));
     EXPECT_THROW(am().trimBuyList(), GameError);
     am().buyGames.assign({title(1, "T", 5)});
     g().math.arcadenewgamespermonth = 11;
@@ -105,7 +106,7 @@ TEST_F(Room, TrimThatCannotChooseOrCannotMakeRoomIsRefused) {
     EXPECT_TRUE(am().buyGames.empty());
 }
 
-TEST_F(Room, ReleaseDrawsOnlyTitlesNotOnOfferOrInTheRoomAndGivesUp) {
+TEST_F(Room, ReleaseDrawsOnlyFreeTitlesGivesUpAfterAThousandAndNeedsItsList) {
     am().loadGamesList();
     ASSERT_EQ(am().allGames.size(), 5u);
     g().math.arcadenewgamespermonth = 2;
@@ -127,9 +128,8 @@ TEST_F(Room, ReleaseDrawsOnlyTitlesNotOnOfferOrInTheRoomAndGivesUp) {
     am().releaseGames();
     EXPECT_EQ(g().rng.draws() - before, 1000u);
     EXPECT_EQ(am().buyGames.size(), 4u);
-}
-
-TEST_F(Room, AnEmptyGamesListMakesTheDrawFatalAndAMissingOneTheLoad) {
+    // An empty games list makes the draw fatal, a missing one the load.
+    am().buyGames.clear();
     dir.write("games.lst", "");
     am().loadGamesList();
     EXPECT_TRUE(am().allGames.empty());

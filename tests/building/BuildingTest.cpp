@@ -126,7 +126,9 @@ TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
     EXPECT_THROW(b().computeCosts(), GameError);
 }
 
-TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndOnlyWithTheMoney) {
+// A repair mends only a broken house, with the money, and leaves the wear; a renovation sets
+// the condition to 100 and resumes the clock, broken house or not.
+TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndRenovateAnyButAPerfectOne) {
     money().setFunds(100000);
     game->setSpeed(3);
     b().repairBuilding();
@@ -151,10 +153,7 @@ TEST_F(BuildingFixture, RepairOnlyABrokenHouseAndOnlyWithTheMoney) {
     EXPECT_EQ(b().repairCost, 0);
     EXPECT_EQ(game->speed, 3); // back to the remembered speed
     EXPECT_FALSE(buildingTexts(b(), game->calendar.currentyear).outOfOrder);
-}
 
-// A renovation sets the condition to 100 and resumes the clock, broken house or not.
-TEST_F(BuildingFixture, RenovateSetsTheConditionTo100) {
     money().setFunds(100000);
     b().condition = 100;
     b().showBuilding();

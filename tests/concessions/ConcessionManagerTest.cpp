@@ -66,25 +66,23 @@ TEST_F(StandFixture, QualityScoreDividesByFour) {
     }
 }
 
-TEST_F(StandFixture, MoneyForTwoItemsOnly) {
-    game->finances.setFunds(15); // 7 + 7 leaves 1; the third bill is refused
-    stand().concessionsNextMonth();
-    for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(item(i).stock, i < 2 ? 20 : 10) << i;
-    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
-    // One message: the slot is shared by all five items.
-    EXPECT_EQ(game.screen.lines,
-              (std::vector<std::string>{"Unable to buy Candy this month, not enough money!!"}));
-}
-
-TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsCleared) {
+// The month's turn shows the month's income before it clears it, and buys the orders while
+// the money lasts: here 7 + 7 leaves 1 and the third bill is refused, told once (the slot is
+// shared by all five items).
+TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsClearedAndMoneyLastsForTwoItems) {
     item(0).sell();
     item(1).sell();
+    game->finances.setFunds(15);
     stand().concessionsNextMonth();
     EXPECT_EQ(concessionTotals(stand()).incomeLastMonth, "$4.20");
     EXPECT_EQ(item(0).lastmonthincome, 0);
     EXPECT_EQ(item(0).lastmonthsales, 1);
     EXPECT_EQ(item(0).thismonthsales, 0);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(item(i).stock, i < 2 ? 19 : 10) << i;
+    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
+    EXPECT_EQ(game.screen.lines,
+              (std::vector<std::string>{"Unable to buy Candy this month, not enough money!!"}));
 }
 
 TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {

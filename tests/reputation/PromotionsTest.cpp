@@ -33,7 +33,7 @@ struct PromoFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
+TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCostsThatTheYearInflates) {
     EXPECT_EQ(promos().promoName,
               (std::array<std::string, 5>{"Nickel", "Paper", "Radio", "Billboard", "TV"}));
     EXPECT_EQ(promos().promoCost[4], 150);
@@ -49,6 +49,11 @@ TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
     EXPECT_EQ(promos().getPromoPoints(), 33);
     EXPECT_EQ(promos().getPromoCost(), 345);
     EXPECT_EQ(promos().promoRunning[4], 2);
+    promos().promosNextYear(); // costs grow by inflation
+    EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
+    EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
+    EXPECT_EQ(promos().promoRunning[4], 2);
+    EXPECT_EQ(promotionsView(promos()).costLabels[3], "$113.30");
 }
 
 TEST_F(PromoFixture, AnAdThatWouldPassTheCapIsRefusedOneThatReachesItIsNot) {
@@ -126,13 +131,4 @@ TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
     game->finances.setFunds(0.5);
     promos().promosNextDay();
     EXPECT_EQ(game.screen.count(stopMessage), 2);
-}
-
-TEST_F(PromoFixture, YearlyInflation) {
-    add(3, 2);
-    promos().promosNextYear();
-    EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
-    EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
-    EXPECT_EQ(promos().promoRunning[3], 2);
-    EXPECT_EQ(promotionsView(promos()).costLabels[3], "$113.30");
 }
