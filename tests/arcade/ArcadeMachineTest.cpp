@@ -129,21 +129,8 @@ TEST_F(Machine, RepairCostGrowsWithAge) {
     EXPECT_THROW(a.repair(), GameError);
 }
 
-TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
-    am().setAutoRepair(true);
-    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "1");
-    arcade& a = addMachine(title(1, "Zap", 100));
-    a.Age = 3;
-    g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_FALSE(a.IamBroke);
-    EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
-    EXPECT_TRUE(logged("Zap has been repaired for $60"));
-    EXPECT_EQ(a.RepairBillsTotal, 60);
-    EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleWorking);
-}
-
-TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
+// The details panel follows the plays and jumps to a breakdown; auto-repair mends one at once.
+TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdownThatAutoRepairMends) {
     addMachine(title(1, "One", 100));
     arcade& second = addMachine(title(2, "Two", 100));
     am().showGameDetails(1);
@@ -155,6 +142,17 @@ TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     EXPECT_EQ(am().detailsNum, 2);
     EXPECT_TRUE(arcadeDetails(am()).broken);
     EXPECT_EQ(arcadeDetails(am()).condition, "Broken");
+    am().setAutoRepair(true);
+    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "1");
+    second.IamBroke = false;
+    second.Age = 3;
+    g().rng.force({0.0, 0.0});
+    EXPECT_TRUE(second.play(second.playTerms(), 0, g().rng));
+    EXPECT_FALSE(second.IamBroke);
+    EXPECT_EQ(tg->screen.count("The arcade machine Two has broke down."), 2);
+    EXPECT_TRUE(logged("Two has been repaired for $60")); // 3 months * 20
+    EXPECT_EQ(second.RepairBillsTotal, 60);
+    EXPECT_EQ(am().room.title(2).color, ArcadeRoom::titleWorking);
 }
 
 TEST_F(Machine, MonthMovesPopularityTowardsClassic) {
