@@ -31,7 +31,6 @@ struct ArcadeFixture : ::testing::Test {
 
     Game& g() { return *tg->game; }
     arcadeManager& am() { return g().arcades; }
-    RecordingScreen& screen() { return tg->screen; }
 
     // A title made by hand, no roll: popularity, classic floor, price index 0 (free play).
     std::shared_ptr<arcade> title(int originalNum, const std::string& name, int pop,

@@ -2,9 +2,6 @@
 
 #include "arcade/ArcadeTexts.h"
 #include "core/GameError.h"
-#include "core/LineFile.h"
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -13,42 +10,38 @@ namespace {
 
 using Machine = ArcadeFixture;
 
+// Popularity, classic floor and style are rolled in that order; each span runs from the
+// minimum to min plus max, on purpose.
 TEST_F(Machine, InitRollsPopularityClassicStyleInOrder) {
-    arcade a(g());
-    g().rng.force({0.5, 0.25, 0.99});
-    a.init(7, "Zap");
-    EXPECT_EQ(a.Num, 7);
-    EXPECT_EQ(a.OriginalNum, 7);
-    EXPECT_EQ(a.Name, "Zap");
-    EXPECT_EQ(a.Age, 0);
-    EXPECT_EQ(a.Pop, 51);                   // floor(100 * 0.5 + 1)
-    EXPECT_EQ(a.Classic, 12);               // floor(30 * 0.25 + 5)
-    EXPECT_EQ(a.CabinetImageFileNumber, 6); // floor(6 * 0.99 + 1)
-    EXPECT_EQ(a.PricePerPlay, 2);
-    EXPECT_EQ(a.cost, 51 * 40);
-    EXPECT_EQ(g().rng.forcedLeft(), 0u);
-}
-
-TEST_F(Machine, InitSpanRunsFromMinToMinPlusMax) {
-    arcade a(g());
-    g().math.arcadepopmin = 20;
-    g().rng.force({0.999, 0.0, 0.0});
-    a.init(1, "Top");
-    EXPECT_EQ(a.Pop, 119); // the upper end is min plus max, on purpose
-    EXPECT_EQ(a.Classic, 5);
-    EXPECT_EQ(a.CabinetImageFileNumber, 1);
-}
-
-TEST_F(Machine, InitPriceOverflowIsFatal) {
-    arcade a(g());
+    const struct {
+        int popmin;
+        double pop, classic, style;
+        int wantPop, wantClassic, wantStyle, wantCost;
+    } rows[] = {
+        {1, 0.5, 0.25, 0.99, 51, 12, 6, 2040},  // 100 * 0.5 + 1, 30 * 0.25 + 5, 6 * 0.99 + 1
+        {20, 0.999, 0.0, 0.0, 119, 5, 1, 4760}, // 100 * 0.999 + 20: min plus max, floored
+    };
+    for (const auto& r : rows) {
+        arcade a(g());
+        g().math.arcadepopmin = r.popmin;
+        g().rng.force({r.pop, r.classic, r.style});
+        a.init(7, "Zap");
+        EXPECT_EQ(g().rng.forcedLeft(), 0u);
+        EXPECT_EQ(std::vector<int>({a.Pop, a.Classic, a.CabinetImageFileNumber}),
+                  std::vector<int>({r.wantPop, r.wantClassic, r.wantStyle}));
+        EXPECT_EQ(a.cost, r.wantCost);
+        EXPECT_EQ(std::vector<int>({a.Num, a.OriginalNum, a.Age, a.PricePerPlay}),
+                  std::vector<int>({7, 7, 0, 2}));
+        EXPECT_EQ(a.Name, "Zap");
+    }
+    arcade dear(g());
     g().math.arcadepricemod = 1000;
     g().rng.force({0.5, 0.5, 0.5}); // Pop 51 * 1000 does not fit 16 bits
-    EXPECT_THROW(a.init(1, "Dear"), GameError);
+    EXPECT_THROW(dear.init(1, "Dear"), GameError);
 }
 
 TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
-    auto t = title(1, "Zap", 60);
-    arcade& a = addMachine(t);
+    arcade& a = addMachine(title(1, "Zap", 60));
     a.PricePerPlay = 2; // $0.50: base = floor(60 - 50 * 0.5) = 35
     // plays so far 5: chance 30. Roll 31 does not play and draws nothing more.
     g().rng.force(roll(31));
@@ -64,69 +57,61 @@ TEST_F(Machine, PlayChanceFallsWithPriceAndCrowdPlays) {
     EXPECT_EQ(g().finances.incdeparcade, 0.5);
     EXPECT_EQ(g().finances.funds, 10000.5);
     EXPECT_FALSE(a.IamBroke);
-}
-
-TEST_F(Machine, FreePlayPlaysAtPopularityAndCanBreak) {
-    arcade& a = addMachine(title(1, "Zap", 40));
-    g().rng.force({roll(40), 0.0}); // roll 40 = Pop; the breakdown roll 1
+    // Free play plays at the popularity; a broken machine then draws nothing.
+    a.PricePerPlay = 0;
+    g().rng.force({roll(60), 0.0}); // the breakdown roll 1
     EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_EQ(a.TotalPlays, 1);
-    EXPECT_EQ(a.Income, 0);
+    EXPECT_EQ(a.Income, 0.5);
     EXPECT_TRUE(a.IamBroke);
-    g().rng.force(roll(41)); // would be roll 41, but a broken machine draws nothing
-    const auto draws = g().rng.draws();
+    g().rng.force(roll(1));
     EXPECT_FALSE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_EQ(g().rng.draws(), draws);
     EXPECT_EQ(g().rng.forcedLeft(), 1u);
-}
-
-TEST_F(Machine, PriceIndexOutsideTheTableIsFatal) {
-    arcade& a = addMachine(title(1, "Zap", 40));
-    a.setPricePerPlay(5); // no range check when set
-    EXPECT_EQ(a.PricePerPlay, 5);
+    a.setPricePerPlay(5); // no range check when set, but a play looks the price up
+    a.IamBroke = false;
     EXPECT_THROW(a.play(a.playTerms(), 0, g().rng), GameError);
 }
 
-TEST_F(Machine, BreakdownRefundsThePlayAndKeepsTheTotals) {
+TEST_F(Machine, BreakdownOnARollOfOneRefundsThePlayAndKeepsTheTotals) {
     arcade& a = addMachine(title(1, "Zap", 100));
-    a.PricePerPlay = 4;              // $1.00
-    g().rng.force({0.0, 0.0004999}); // play; 2000 * r + 1 floors to 1
+    a.PricePerPlay = 4;            // $1.00
+    g().rng.force({0.0, 0.00051}); // 2000 * r + 1 floors to 2: holds
+    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
+    EXPECT_FALSE(a.IamBroke);
+    g().rng.force({0.0, 0.0004999}); // floors to 1
     EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_TRUE(a.IamBroke);
     EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
-    EXPECT_EQ(g().finances.funds, 10000);  // earned and paid back
+    EXPECT_EQ(g().finances.funds, 10001);  // two earned, one paid back
     EXPECT_EQ(g().finances.totalspent, 1); // the refund charges no department
     EXPECT_EQ(g().finances.deparcade, 0);
-    EXPECT_EQ(g().finances.incdeparcade, 1);
-    EXPECT_EQ(a.TotalPlays, 1);
-    EXPECT_EQ(a.Income, 1);
+    EXPECT_EQ(g().finances.incdeparcade, 2);
+    EXPECT_EQ(a.TotalPlays, 2);
+    EXPECT_EQ(a.Income, 2);
     EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleBroken);
-}
-
-TEST_F(Machine, BreakRollOfTwoDoesNotBreak) {
-    arcade& a = addMachine(title(1, "Zap", 100));
-    g().rng.force({0.0, 0.00051}); // 2000 * r + 1 floors to 2
-    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_FALSE(a.IamBroke);
 }
 
 TEST_F(Machine, RefundThatFundsCannotCoverIsDroppedSilently) {
     arcade& a = addMachine(title(1, "Zap", 100));
     a.PricePerPlay = 2;
     g().finances.setFunds(0.6); // 0.6 + 0.5 - 0.5 would leave under 1
-    const std::size_t before = screen().lines.size();
     g().rng.force({0.0, 0.0});
     EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_TRUE(a.IamBroke);
     EXPECT_DOUBLE_EQ(g().finances.funds, 1.1);
     EXPECT_EQ(g().finances.totalspent, 0);
-    ASSERT_EQ(screen().lines.size(), before + 1); // the breakdown line only
-    EXPECT_EQ(screen().lines.back(), "The arcade machine Zap has broke down.");
+    EXPECT_EQ(tg->screen.lines, std::vector<std::string>{"The arcade machine Zap has broke down."});
 }
 
+// A repair costs arcaderepaircost a month of age: a new machine's is $0, and even that needs
+// a dollar left over.
 TEST_F(Machine, RepairCostGrowsWithAge) {
     arcade& a = addMachine(title(1, "Zap", 50));
     a.IamBroke = true;
+    g().finances.setFunds(0.5);
+    a.repair();
+    EXPECT_TRUE(a.IamBroke);
+    EXPECT_TRUE(logged("Couldn't afford the $0 to fix arcade 'Zap'"));
+    g().finances.setFunds(10000);
     a.Age = 7;
     a.Income = 100;
     a.repair();
@@ -140,40 +125,13 @@ TEST_F(Machine, RepairCostGrowsWithAge) {
     // Repairs count twice in the profit figure, as the panel shows it.
     a.OriginalPrice = 1000;
     EXPECT_EQ(a.totalProfit(), -40 - 1000 - 140);
-}
-
-TEST_F(Machine, RepairAgeOverflowIsFatal) {
-    arcade& a = addMachine(title(1, "Zap", 50));
     a.Age = 2000; // 2000 * 20 does not fit 16 bits
     EXPECT_THROW(a.repair(), GameError);
 }
 
-TEST_F(Machine, NewMachineRepairsForNothingButSpendStillTests) {
-    arcade& a = addMachine(title(1, "Zap", 50));
-    a.IamBroke = true;
-    g().finances.setFunds(0.5);
-    a.repair();
-    EXPECT_TRUE(a.IamBroke);
-    EXPECT_TRUE(logged("Couldn't afford the $0 to fix arcade 'Zap'"));
-    EXPECT_EQ(a.RepairBillsTotal, 0);
-}
-
-TEST_F(Machine, AutoRepairFixesABreakdownAtOnce) {
-    am().setAutoRepair(true);
-    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "1");
-    arcade& a = addMachine(title(1, "Zap", 100));
-    a.Age = 3;
-    g().rng.force({0.0, 0.0});
-    EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
-    EXPECT_FALSE(a.IamBroke);
-    EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
-    EXPECT_TRUE(logged("Zap has been repaired for $60"));
-    EXPECT_EQ(a.RepairBillsTotal, 60);
-    EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleWorking);
-}
-
-TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
-    arcade& first = addMachine(title(1, "One", 100));
+// The details panel follows the plays and jumps to a breakdown; auto-repair mends one at once.
+TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdownThatAutoRepairMends) {
+    addMachine(title(1, "One", 100));
     arcade& second = addMachine(title(2, "Two", 100));
     am().showGameDetails(1);
     g().rng.force({0.0, 0.9}); // machine 2 plays: the panel stays on machine 1
@@ -184,10 +142,20 @@ TEST_F(Machine, DetailsPanelFollowsPlaysAndJumpsToABreakdown) {
     EXPECT_EQ(am().detailsNum, 2);
     EXPECT_TRUE(arcadeDetails(am()).broken);
     EXPECT_EQ(arcadeDetails(am()).condition, "Broken");
-    (void)first;
+    am().setAutoRepair(true);
+    EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "1");
+    second.IamBroke = false;
+    second.Age = 3;
+    g().rng.force({0.0, 0.0});
+    EXPECT_TRUE(second.play(second.playTerms(), 0, g().rng));
+    EXPECT_FALSE(second.IamBroke);
+    EXPECT_EQ(tg->screen.count("The arcade machine Two has broke down."), 2);
+    EXPECT_TRUE(logged("Two has been repaired for $60")); // 3 months * 20
+    EXPECT_EQ(second.RepairBillsTotal, 60);
+    EXPECT_EQ(am().room.title(2).color, ArcadeRoom::titleWorking);
 }
 
-TEST_F(Machine, MonthDropsPopularityTowardsClassic) {
+TEST_F(Machine, MonthMovesPopularityTowardsClassic) {
     arcade& a = addMachine(title(1, "Zap", 50, 10));
     a.cost = 9999;      // inflation is discarded by the month
     g().rng.force(0.5); // drop floor(4 * 0.5 + 1) = 3
@@ -203,28 +171,13 @@ TEST_F(Machine, MonthDropsPopularityTowardsClassic) {
 
     const auto draws = g().rng.draws();
     a.nextMonth(); // at the floor: no roll at all
-    EXPECT_EQ(g().rng.draws(), draws);
     EXPECT_EQ(a.Pop, 10);
     EXPECT_EQ(a.Age, 3);
-}
-
-TEST_F(Machine, MonthRaisesAMachineBelowItsClassicFloor) {
-    arcade& a = addMachine(title(1, "Zap", 5, 20));
-    const auto draws = g().rng.draws();
+    a.Classic = 11; // one below the floor: raised to it, no roll either
     a.nextMonth();
-    EXPECT_EQ(a.Pop, 20);
+    EXPECT_EQ(a.Pop, 11);
+    EXPECT_EQ(a.cost, 440);
     EXPECT_EQ(g().rng.draws(), draws);
-    EXPECT_EQ(a.cost, 800);
-}
-
-TEST_F(Machine, BrokenPriceIsReducedButCostIsWhole) {
-    auto t = title(1, "Zap", 50);
-    EXPECT_EQ(t->getPrice(), 2000);
-    t->IamBroke = true;
-    EXPECT_EQ(t->getCost(), 2000);
-    EXPECT_EQ(t->getPrice(), 500);
-    t->inflate();
-    EXPECT_DOUBLE_EQ(t->getCost(), 2060);
 }
 
 TEST_F(Machine, CabinetFileNamePadding) {
@@ -235,12 +188,15 @@ TEST_F(Machine, CabinetFileNamePadding) {
     EXPECT_EQ(arcade::cabinetFileName(1234, false), "1234L.gif");
 }
 
-TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
+// A cabinet faces the room's centre by the divider. Of the player's edits, an empty name and a
+// style outside 1 to arcadeimages are ignored, and a new name is not re-centred.
+TEST_F(Machine, CabinetFacesTheRoomCentreByTheDividerAndTakesThePlayersEdits) {
     auto t = title(1, "Zap", 50);
     t->CabinetImageFileNumber = 3;
     t->myCabLeft = ArcadeRoom::defaultDividerX; // on the line: still the left picture
     arcade& a = addMachine(t);
     EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/003L.gif"));
+    EXPECT_EQ(am().room.cabinet(1).width, ArcadeRoom::templateWidth); // no file: its own size
     // One twip over the line flips it.
     am().moveCabinet(1, 101, 50, 100, 50);
     EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::defaultDividerX + 1);
@@ -248,63 +204,43 @@ TEST_F(Machine, CabinetFacesTheRoomCentreByTheDivider) {
     EXPECT_EQ(a.cabinetPicturePath, am().room.cabinet(1).picture);
     // The saved place is not written by a move.
     EXPECT_EQ(a.myCabLeft, ArcadeRoom::defaultDividerX);
-}
-
-TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
-    arcade& a = addMachine(title(1, "Zap", 50));
-    const ArcadeCabinet& cab = am().room.cabinet(1);
-    const ArcadeTitle& t = am().room.title(1);
-    EXPECT_EQ(cab.left, ArcadeRoom::templateLeft);
-    EXPECT_EQ(cab.top, ArcadeRoom::templateTop);
-    EXPECT_TRUE(cab.visible);
-    EXPECT_TRUE(t.visible);
-    EXPECT_EQ(t.caption, "Zap");
-    EXPECT_EQ(t.top, cab.top - 360);
-    // width 3 * 90 = 270; left = left + 960 / 2 - Int(135)
-    EXPECT_EQ(t.left, ArcadeRoom::templateLeft + 480 - 135);
-    // An odd half width is floored: 5 characters, 450 wide, half 225.
-    a.setName("Zappo");
-    a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 225);
-    am().room.title(1).width = 301; // half 150.5 floors to 150
-    a.positionTitle(1);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 480 - 150);
-}
-
-TEST_F(Machine, RenameIgnoresAnEmptyNameAndDoesNotRecentre) {
-    arcade& a = addMachine(title(1, "Zap", 50));
     const float left = am().room.title(1).left;
     am().renameGame(1, "");
-    EXPECT_EQ(a.Name, "Zap");
     EXPECT_EQ(am().room.title(1).caption, "Zap");
     am().renameGame(1, "Longer Name");
     EXPECT_EQ(a.Name, "Longer Name");
     EXPECT_EQ(am().room.title(1).caption, "Longer Name");
     EXPECT_EQ(am().room.title(1).left, left);
-}
-
-TEST_F(Machine, StyleOutsideTheRangeIsIgnored) {
-    arcade& a = addMachine(title(1, "Zap", 50));
     am().setCabinetNum(1, 0);
     am().setCabinetNum(1, 7);
-    EXPECT_EQ(a.CabinetImageFileNumber, 1);
+    EXPECT_EQ(a.CabinetImageFileNumber, 3);
     am().setCabinetNum(1, 6);
-    EXPECT_EQ(a.CabinetImageFileNumber, 6);
-    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006L.gif"));
+    EXPECT_EQ(am().room.cabinet(1).picture, g().dataPath("images/arcades/006R.gif"));
 }
 
-TEST_F(Machine, CabinetTakesItsPictureSizeFromTheGif) {
-    // A GIF header of 80 x 100 pixels.
-    std::string gif = "GIF89a";
-    gif += std::string{'\x50', '\x00', '\x64', '\x00'};
-    gif += std::string(20, '\0');
-    dir.write("images/arcades/002L.gif", gif);
-    auto t = title(1, "Zap", 50);
-    t->CabinetImageFileNumber = 2;
-    addMachine(t);
-    EXPECT_EQ(am().room.cabinet(1).width, 1200);
-    EXPECT_EQ(am().room.cabinet(1).height, 1500);
-    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 135);
+// Here the picture is a GIF header of 80 x 100 pixels: the cabinet takes its size.
+TEST_F(Machine, NewCabinetStandsAtTheTemplateWithItsTitleCentredAbove) {
+    dir.write("images/arcades/001L.gif",
+              std::string("GIF89a\x50\x00\x64\x00", 10) + std::string(20, '\0'));
+    arcade& a = addMachine(title(1, "Zap", 50));
+    const ArcadeCabinet& cab = am().room.cabinet(1);
+    const ArcadeTitle& t = am().room.title(1);
+    EXPECT_EQ(cab.left, ArcadeRoom::templateLeft);
+    EXPECT_EQ(cab.top, ArcadeRoom::templateTop);
+    EXPECT_EQ(cab.width, 1200);
+    EXPECT_EQ(cab.height, 1500);
+    EXPECT_TRUE(cab.visible && t.visible);
+    EXPECT_EQ(t.caption, "Zap");
+    EXPECT_EQ(t.top, cab.top - 360);
+    // width 3 * 90 = 270; left = left + 1200 / 2 - Int(135)
+    EXPECT_EQ(t.left, ArcadeRoom::templateLeft + 600 - 135);
+    // An odd half width is floored: 5 characters, 450 wide, half 225.
+    a.setName("Zappo");
+    a.positionTitle(1);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 225);
+    am().room.title(1).width = 301; // half 150.5 floors to 150
+    a.positionTitle(1);
+    EXPECT_EQ(am().room.title(1).left, ArcadeRoom::templateLeft + 600 - 150);
 }
 
 } // namespace

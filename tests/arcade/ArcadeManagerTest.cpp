@@ -6,7 +6,6 @@
 #include "core/Text.h"
 
 #include <filesystem>
-
 #include <sstream>
 
 using namespace zorvane;
@@ -16,107 +15,73 @@ namespace {
 
 using Room = ArcadeFixture;
 
-// Forces every visitor of a free-play, never-failing room to play each machine once:
-// per play a roll of 1 and a breakdown roll that does not break.
-void forceSurePlays(Game& game, int plays) {
-    for (int i = 0; i < plays; ++i)
-        game.rng.force({0.0, 0.9});
-}
-
-int visitorsFor(Room& f, int percentarcade, int crowd) {
-    f.g().math.percentarcade = percentarcade;
-    f.g().math.arcadeplaychanceplayedmod = 0;
-    arcade& a = f.am().myGameAt(1);
-    a.TotalPlays = 0;
-    const auto before = f.g().rng.draws();
-    forceSurePlays(f.g(), 1000);
-    f.am().doArcadeBusiness(crowd);
-    const auto used = f.g().rng.draws() - before;
-    // drop what was not used
-    while (f.g().rng.forcedLeft() > 0)
-        f.g().rng.next();
-    EXPECT_EQ(used, static_cast<std::uint64_t>(2 * a.TotalPlays));
-    return static_cast<int>(a.TotalPlays);
-}
-
 // The visitor-count rule itself is the stand's too (tested there); the arcade's share is
-// percentarcade.
+// percentarcade. Every visitor of this free-play room plays its machine on a roll of 1.
 TEST_F(Room, VisitorsFollowTheCrowdRuleWithTheArcadesShare) {
-    addMachine(title(1, "Zap", 100));
-    EXPECT_EQ(visitorsFor(*this, 12, 200), 6);
-    EXPECT_EQ(visitorsFor(*this, 7, 200), 4);   // 3.5
-    EXPECT_EQ(visitorsFor(*this, 12, 2500), 0); // 0.48 rounds to 0: nobody comes
-}
-
-TEST_F(Room, EmptyCrowdDividesByZeroOnlyWithMachines) {
-    EXPECT_NO_THROW(am().doArcadeBusiness(0));
-    addMachine(title(1, "Zap", 100));
+    EXPECT_NO_THROW(am().doArcadeBusiness(0)); // an empty room never divides
+    arcade& a = addMachine(title(1, "Zap", 100));
+    g().math.arcadeplaychanceplayedmod = 0;
+    const struct {
+        int share, crowd, visitors;
+    } rows[] = {{12, 200, 6}, {7, 200, 4} /* 3.5 */, {12, 2500, 0} /* 0.48: nobody comes */};
+    for (const auto& r : rows) {
+        g().math.percentarcade = r.share;
+        a.TotalPlays = 0;
+        const auto before = g().rng.draws();
+        for (int i = 0; i < r.visitors; ++i)
+            g().rng.force({0.0, 0.9});
+        am().doArcadeBusiness(r.crowd);
+        EXPECT_EQ(a.TotalPlays, r.visitors) << r.share << " " << r.crowd;
+        EXPECT_EQ(g().rng.draws() - before, 2u * r.visitors);
+    }
     EXPECT_THROW(am().doArcadeBusiness(0), GameError);
 }
 
+// Two visitors meet two machines of popularity 10, and every play of the crowd lowers every
+// later chance by one. A machine that breaks draws no more rolls, unless auto-repair mends it
+// at once, and then it plays on at the crowd's lowered chance.
 TEST_F(Room, PlaysOfTheWholeCrowdLowerEveryLaterChance) {
-    arcade& one = addMachine(title(1, "One", 10));
-    arcade& two = addMachine(title(2, "Two", 10));
-    g().math.percentarcade = 2; // a crowd of 100: two visitors
-    g().rng.force({
-        roll(10), 0.9, // visitor 1, machine 1: chance 10, plays
-        roll(9), 0.9,  // visitor 1, machine 2: chance 9, plays
-        roll(9),       // visitor 2, machine 1: chance 8, no play
-        roll(8), 0.9,  // visitor 2, machine 2: chance 8, plays
-    });
-    am().doArcadeBusiness(100);
-    EXPECT_EQ(g().rng.forcedLeft(), 0u);
-    EXPECT_EQ(one.TotalPlays, 1);
-    EXPECT_EQ(two.TotalPlays, 2);
-}
-
-TEST_F(Room, BrokenMachineIsSkippedWithoutShiftingChances) {
-    arcade& one = addMachine(title(1, "One", 10));
-    arcade& two = addMachine(title(2, "Two", 10));
-    one.IamBroke = true;
-    g().math.percentarcade = 1;
-    g().rng.force({roll(10), 0.9}); // machine 2 still sees chance 10
-    am().doArcadeBusiness(100);
-    EXPECT_EQ(g().rng.forcedLeft(), 0u);
-    EXPECT_EQ(two.TotalPlays, 1);
-}
-
-// A breakdown halfway through a crowd: the broken machine draws no more rolls, unless
-// auto-repair mends it at once, and then it plays on at the crowd's lowered chance.
-TEST_F(Room, AMachineThatBreaksMidCrowdPlaysOnOnlyWhenRepairedAtOnce) {
-    for (const bool autoRepair : {false, true}) {
-        SCOPED_TRACE(autoRepair ? "auto-repair" : "no auto-repair");
-        am().setAutoRepair(autoRepair);
+    const struct {
+        const char* what;
+        bool autoRepair;
+        std::vector<double> rolls; // visitor 1 meets machines 1 and 2, then visitor 2
+        int onePlays;
+        bool oneBroken;
+    } cases[] = {
+        {"a miss at chance 8", false, {roll(10), .9, roll(9), .9, roll(9), roll(8), .9}, 1, false},
+        {"machine 1 breaks", false, {roll(10), 0, roll(9), .9, roll(8), .9}, 1, true},
+        {"and is mended", true, {roll(10), 0, roll(9), .9, roll(8), .9, roll(7), .9}, 2, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        am().setAutoRepair(c.autoRepair);
         g().finances.setFunds(1000);
         while (am().getMachineCount() > 0)
             am().removeFromMyGames(1);
         arcade& one = addMachine(title(1, "One", 10));
         arcade& two = addMachine(title(2, "Two", 10));
-        g().math.percentarcade = 2;                   // a crowd of 100: two visitors
-        g().rng.force({roll(10), 0.0, roll(9), 0.9}); // visitor 1: one breaks, two plays
-        if (autoRepair)
-            g().rng.force({roll(8), 0.9, roll(7), 0.9}); // visitor 2 plays both
-        else
-            g().rng.force({roll(8), 0.9}); // visitor 2 plays two only
+        g().math.percentarcade = 2; // a crowd of 100: two visitors
+        for (const double r : c.rolls)
+            g().rng.force(r);
         am().doArcadeBusiness(100);
         EXPECT_EQ(g().rng.forcedLeft(), 0u);
-        EXPECT_EQ(one.TotalPlays, autoRepair ? 2 : 1);
-        EXPECT_EQ(one.getIamBroke(), !autoRepair);
+        EXPECT_EQ(one.TotalPlays, c.onePlays);
+        EXPECT_EQ(one.getIamBroke(), c.oneBroken);
         EXPECT_EQ(two.TotalPlays, 2);
     }
 }
 
 TEST_F(Room, AveragePopularityIsFloored) {
     EXPECT_EQ(am().getAveragePop(), 0);
-    EXPECT_EQ(am().getMachineCount(), 0);
     addMachine(title(1, "One", 10));
     addMachine(title(2, "Two", 11));
     addMachine(title(3, "Three", 11));
-    EXPECT_EQ(am().getMachineCount(), 3);
     EXPECT_EQ(am().getAveragePop(), 10); // 32 / 3
 }
 
-TEST_F(Room, TrimDropsTheWeakestFirstOfEquals) {
+// The trim drops the weakest (the first of equals) until the month's titles fit, and is
+// refused when it cannot choose or cannot make room.
+TEST_F(Room, TrimDropsTheWeakestFirstOfEqualsOrIsRefused) {
     const int pops[] = {50, 20, 70, 20, 90, 15, 60, 40, 80};
     for (int i = 0; i < 9; ++i) {
         am().buyGames.push_back(title(i + 1, "T" + std::to_string(i + 1), pops[i]));
@@ -129,23 +94,19 @@ TEST_F(Room, TrimDropsTheWeakestFirstOfEquals) {
         EXPECT_EQ(am().buyGameAt(i + 1).getOriginalNum(), expected[i]);
         EXPECT_EQ(am().buyGameAt(i + 1).getNum(), i + 1);
     }
-}
-
-TEST_F(Room, TrimThatCannotChooseIsRefused) {
-    for (int i = 0; i < 9; ++i)
-        am().buyGames.push_back(title(i + 1, "T", i == 4 ? 100 : 100 + i));
+    // With no title below arcadepopmax there is nothing to choose.
+    for (const auto& t : am().buyGames)
+        t->Pop = 100;
+    am().buyGames.push_back(title(10, "T", 100));
     EXPECT_THROW(am().trimBuyList(), GameError);
-}
-
-TEST_F(Room, TrimRefusesWhenTheMonthAloneOverfillsTheList) {
+    am().buyGames.assign({title(1, "T", 5)});
     g().math.arcadenewgamespermonth = 11;
-    am().buyGames.push_back(title(1, "T", 5));
     // The one title goes, then an empty list still cannot make room.
     EXPECT_THROW(am().trimBuyList(), GameError);
     EXPECT_TRUE(am().buyGames.empty());
 }
 
-TEST_F(Room, ReleaseDrawsOnlyTitlesNotOnOfferOrInTheRoom) {
+TEST_F(Room, ReleaseDrawsOnlyFreeTitlesGivesUpAfterAThousandAndNeedsItsList) {
     am().loadGamesList();
     ASSERT_EQ(am().allGames.size(), 5u);
     g().math.arcadenewgamespermonth = 2;
@@ -160,27 +121,19 @@ TEST_F(Room, ReleaseDrawsOnlyTitlesNotOnOfferOrInTheRoom) {
     EXPECT_EQ(am().buyGameAt(3).getName(), "Echo");
     EXPECT_EQ(am().buyGameAt(3).getNum(), 3);
     EXPECT_EQ(am().buyGames[2], am().allGames[4]); // the very object of the list
-}
-
-TEST_F(Room, ReleaseStopsAfterAThousandDraws) {
-    am().loadGamesList();
-    for (int i = 0; i < 5; ++i)
-        am().buyGames.push_back(am().allGames[static_cast<std::size_t>(i)]);
+    // With every title taken the draw gives up after a thousand tries.
+    am().buyGames.push_back(am().allGames[3]);
     g().math.arcademaxgamesonbuylist = 100;
     const auto before = g().rng.draws();
     am().releaseGames();
     EXPECT_EQ(g().rng.draws() - before, 1000u);
-    EXPECT_EQ(am().buyGames.size(), 5u);
-}
-
-TEST_F(Room, EmptyGamesListMakesTheDrawFatal) {
+    EXPECT_EQ(am().buyGames.size(), 4u);
+    // An empty games list makes the draw fatal, a missing one the load.
+    am().buyGames.clear();
     dir.write("games.lst", "");
     am().loadGamesList();
     EXPECT_TRUE(am().allGames.empty());
     EXPECT_THROW(am().releaseGames(), GameError);
-}
-
-TEST_F(Room, MissingGamesListIsFatal) {
     std::filesystem::remove(dir.file("games.lst"));
     EXPECT_THROW(am().loadGamesList(), GameError);
 }
@@ -225,22 +178,17 @@ TEST_F(Room, BuyingMovesTheTitleIntoTheRoom) {
     EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::templateLeft);
 }
 
-TEST_F(Room, FullRoomRefusesBeforeMoney) {
-    g().math.arcademax = 1;
-    addMachine(title(1, "One", 10));
-    am().buyGames.push_back(title(2, "Two", 10));
-    am().buyGame(2); // a bad row: the full room answers first
-    EXPECT_TRUE(logged("You cannot fit any more machines into your arcade room!"));
-    EXPECT_EQ(g().finances.totalspent, 0);
-    EXPECT_EQ(am().buyGames.size(), 1u);
-}
-
-TEST_F(Room, BuyingWithoutMoneyIsRefused) {
+TEST_F(Room, BuyingWithoutMoneyOrRoomIsRefusedTheFullRoomFirst) {
     g().finances.setFunds(2000); // 2000 - 2000 leaves less than 1
     am().buyGames.push_back(title(2, "Bravo", 50));
     am().buyGame(1);
     EXPECT_TRUE(logged("Couldn't afford to buy 'Bravo'"));
     EXPECT_EQ(am().getMachineCount(), 0);
+    g().math.arcademax = 1;
+    addMachine(title(1, "One", 10));
+    am().buyGame(2); // a bad row: the full room answers first
+    EXPECT_TRUE(logged("You cannot fit any more machines into your arcade room!"));
+    EXPECT_EQ(g().finances.totalspent, 0);
     EXPECT_EQ(am().buyGames.size(), 1u);
 }
 
@@ -277,12 +225,7 @@ TEST_F(Room, SellingClosesTheRoomUp) {
     // The sold object keeps all it has; its saved place is left as it was.
     EXPECT_EQ(two.MyCabTop, 0);
     EXPECT_EQ(twoPtr.use_count(), 1);
-}
-
-TEST_F(Room, SellingTheLastMachineDestroysOnlyItsCabinet) {
-    addMachine(title(1, "One", 10));
-    addMachine(title(2, "Two", 20));
-    am().sellGame(2);
+    am().sellGame(2); // the last one: only its own cabinet goes
     EXPECT_TRUE(am().room.exists(1));
     EXPECT_FALSE(am().room.exists(2));
     EXPECT_EQ(am().room.title(1).caption, "One");
@@ -319,7 +262,7 @@ TEST_F(Room, SoldTitleDrawnAgainComesBackAsItWas) {
     EXPECT_TRUE(am().myGameAt(1).IamBroke);
 }
 
-TEST_F(Room, MonthReleasesThenAgesTheRoom) {
+TEST_F(Room, MonthReleasesThenAgesTheRoomAndTheYearInflates) {
     am().loadGamesList();
     g().math.arcadenewgamespermonth = 1;
     addMachine(title(9, "Mine", 50, 10));
@@ -333,14 +276,10 @@ TEST_F(Room, MonthReleasesThenAgesTheRoom) {
     EXPECT_EQ(am().myGameAt(1).Pop, 47);
     EXPECT_EQ(am().myGameAt(1).Age, 1);
     EXPECT_EQ(am().buyGameAt(1).Age, onOfferAge);
-}
-
-TEST_F(Room, YearInflatesOnlyTheMarket) {
-    arcade& mine = addMachine(title(1, "Mine", 50));
-    am().buyGames.push_back(title(2, "Offer", 50));
-    am().arcadesNextYear();
+    am().buyGameAt(1).cost = 2000;
+    am().arcadesNextYear(); // the year inflates the market only
     EXPECT_DOUBLE_EQ(am().buyGameAt(1).getCost(), 2060);
-    EXPECT_EQ(mine.getCost(), 2000);
+    EXPECT_EQ(am().myGameAt(1).getCost(), 1880);
 }
 
 TEST_F(Room, LoadClosesADetailsPanelBeyondTheRoom) {
@@ -363,17 +302,11 @@ TEST_F(Room, DetailsViewTexts) {
     a.PricePerPlay = 2;
     am().showGameDetails(1);
     const ArcadeDetails d = arcadeDetails(am());
-    EXPECT_EQ(d.name, "Zap");
-    EXPECT_EQ(d.pop, "50");
-    EXPECT_EQ(d.age, "12 months");
-    EXPECT_EQ(d.condition, "Working");
+    EXPECT_EQ(std::vector<std::string>({d.name, d.pop, d.age, d.condition, d.paid, d.repairs,
+                                        d.plays, d.income, d.profit, d.value}),
+              std::vector<std::string>({"Zap", "50", "12 months", "Working", "$2,000", "$120",
+                                        "1500", "$380.50", "-$1,739.50", "$2,000"}));
     EXPECT_EQ(d.conditionBack, 0xFFFF80u);
-    EXPECT_EQ(d.paid, "$2,000");
-    EXPECT_EQ(d.repairs, "$120");
-    EXPECT_EQ(d.plays, "1500");
-    EXPECT_EQ(d.income, "$380.50");
-    EXPECT_EQ(d.profit, "-$1,739.50");
-    EXPECT_EQ(d.value, "$2,000");
     EXPECT_EQ(d.priceIndex, 2);
     a.IamBroke = true;
     const ArcadeDetails broken = arcadeDetails(am());
@@ -385,18 +318,13 @@ TEST_F(Room, DetailsViewTexts) {
 // The style slider: where the handle stands for a style, and which style a handle's place
 // stands for, on a track from 120 to 2520 twips with six styles.
 TEST(ArcadeSlider, HandlePlaceAndStyle) {
-    struct Place {
-        int style, x;
-    };
-    for (const Place p : {Place{1, 420}, Place{3, 1260}, Place{6, 2520}, Place{9, 3780}})
-        EXPECT_EQ(arcadeSliderX(120, 2400, p.style, 6), p.x) << p.style;
-    struct Style {
-        double x;
-        int style;
-    };
-    for (const Style s : {Style{0, 1}, Style{120, 1}, Style{839, 1}, Style{840, 2}, Style{2099, 4},
-                          Style{2520, 6}, Style{9000, 6}, Style{-50, 1}})
-        EXPECT_EQ(arcadeSliderStyle(s.x, 2520, 6), s.style) << s.x;
+    const int places[][2] = {{1, 420}, {3, 1260}, {6, 2520}, {9, 3780}};
+    for (const auto& [style, x] : places)
+        EXPECT_EQ(arcadeSliderX(120, 2400, style, 6), x) << style;
+    const double styles[][2] = {{0, 1},    {120, 1},  {839, 1},  {840, 2},
+                                {2099, 4}, {2520, 6}, {9000, 6}, {-50, 1}};
+    for (const auto& [x, style] : styles)
+        EXPECT_EQ(arcadeSliderStyle(x, 2520, 6), style) << x;
     // A style's own handle place gives the style back.
     for (int style = 1; style <= 6; ++style)
         EXPECT_EQ(arcadeSliderStyle(arcadeSliderX(120, 2400, style, 6), 2520, 6), style);

@@ -26,11 +26,6 @@ struct BuildingFixture : ::testing::Test {
 
     buildingManager& b() { return game->building; }
     Finances& money() { return game->finances; }
-
-    static std::string rentWarning(int grace) {
-        return "You have not paid your rent this month, if you go " + std::to_string(grace) +
-               " month(s) without paying rent you will lose this game!";
-    }
 };
 
 } // namespace zorvane::test

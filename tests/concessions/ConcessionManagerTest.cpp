@@ -2,22 +2,10 @@
 
 #include "concessions/ConcessionTexts.h"
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "core/Text.h"
-
-#include <algorithm>
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
-
-namespace {
-
-int refreshes(const RecordingScreen& screen, View v) {
-    return static_cast<int>(std::count(screen.refreshed.begin(), screen.refreshed.end(), v));
-}
-
-} // namespace
 
 // One rule for the arcade's and the stand's visitors: share * 100 / crowd, kept on purpose,
 // rounded half to even.
@@ -26,37 +14,25 @@ TEST(CrowdVisitors, FewerAsTheCrowdGrowsRoundedHalfToEven) {
                             {200, 7, 4}, {1600, 8, 0}, {1599, 8, 1}, {300, 8, 3}};
     for (const auto& [crowd, share, visitors] : cases)
         EXPECT_EQ(visitorsOf(crowd, share), visitors) << crowd << " " << share;
+    EXPECT_THROW(visitorsOf(0, 8), GameError); // a division by zero
 }
 
-TEST(ConcessionVisitors, ACrowdOfNoneIsADivisionByZero) {
-    EXPECT_THROW(visitorsOf(0, 8), GameError);
-}
-
+// Each visitor considers every item once; a crowd that rounds to no visitor shows nothing.
 TEST_F(StandFixture, EachVisitorConsidersEveryItemOnce) {
     for (int i = 0; i < 5; ++i)
         item(i).stock = 100;
-    const auto before = game->rng.draws();
-    allWant(4);
-    stand().doConcessionBusiness(200); // 800 / 200: four visitors
-    EXPECT_EQ(game->rng.draws() - before, 20u);
-    for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(item(i).todayssold, 4);
-}
-
-TEST_F(StandFixture, RoundingToNoVisitorShowsNothing) {
     game.screen.refreshed.clear();
     const auto before = game->rng.draws();
     stand().doConcessionBusiness(1600); // 0.5 rounds to 0
     EXPECT_EQ(game->rng.draws(), before);
     EXPECT_TRUE(game.screen.refreshed.empty());
-
-    stand().doConcessionBusiness(1599); // one visitor
-    EXPECT_EQ(game->rng.draws() - before, 5u);
-    EXPECT_EQ(refreshes(game.screen, View::ConcessionTotals) > 0, true);
-}
-
-TEST_F(StandFixture, ACrowdOfNoneIsFatal) {
-    EXPECT_THROW(stand().doConcessionBusiness(0), GameError);
+    allWant(4);
+    stand().doConcessionBusiness(200); // 800 / 200: four visitors
+    EXPECT_EQ(game->rng.draws() - before, 20u);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(item(i).todayssold, 4);
+    EXPECT_GT(game.screen.refreshes(View::ConcessionTotals), 0);
+    EXPECT_THROW(stand().doConcessionBusiness(0), GameError); // a crowd of none
 }
 
 TEST_F(StandFixture, AllOutOfStockGivesOneLineForTheLowestItem) {
@@ -76,44 +52,37 @@ TEST_F(StandFixture, AllOutOfStockGivesOneLineForTheLowestItem) {
     EXPECT_EQ(game.screen.lines.size(), 2u);
 }
 
+// 50 points an item at quality 1, 100 at 2, the sum divided by four and floored; a quality 3
+// from a saved game counts nothing.
 TEST_F(StandFixture, QualityScoreDividesByFour) {
-    for (int i = 0; i < 5; ++i)
-        item(i).setQuality(2);
-    EXPECT_EQ(stand().getQualityScore(), 125);
-    for (int i = 0; i < 5; ++i)
-        item(i).setQuality(0);
-    EXPECT_EQ(stand().getQualityScore(), 0);
-    item(3).setQuality(1);
-    EXPECT_EQ(stand().getQualityScore(), 12); // floor of 12.5
-    item(0).setQuality(2);
-    item(1).setQuality(2);
-    EXPECT_EQ(stand().getQualityScore(), 62); // 250 / 4
-    item(0).quality = 3;                      // from a saved game: counts nothing
-    EXPECT_EQ(stand().getQualityScore(), 37);
+    const struct {
+        const char* qualities; // of the five items
+        int score;
+    } rows[] = {{"22222", 125}, {"00000", 0}, {"00010", 12}, {"22010", 62}, {"32010", 37}};
+    for (const auto& r : rows) {
+        for (int i = 0; i < 5; ++i)
+            item(i).quality = r.qualities[i] - '0';
+        EXPECT_EQ(stand().getQualityScore(), r.score) << r.qualities;
+    }
 }
 
-TEST_F(StandFixture, MoneyForTwoItemsOnly) {
-    game->finances.setFunds(15); // 7 + 7 leaves 1; the third bill is refused
-    stand().concessionsNextMonth();
-    EXPECT_EQ(item(0).stock, 20);
-    EXPECT_EQ(item(1).stock, 20);
-    EXPECT_EQ(item(2).stock, 10);
-    EXPECT_EQ(item(3).stock, 10);
-    EXPECT_EQ(item(4).stock, 10);
-    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
-    // One message: the slot is shared by all five items.
-    EXPECT_EQ(game.screen.lines,
-              (std::vector<std::string>{"Unable to buy Candy this month, not enough money!!"}));
-}
-
-TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsCleared) {
+// The month's turn shows the month's income before it clears it, and buys the orders while
+// the money lasts: here 7 + 7 leaves 1 and the third bill is refused, told once (the slot is
+// shared by all five items).
+TEST_F(StandFixture, TheMonthsIncomeIsShownBeforeItIsClearedAndMoneyLastsForTwoItems) {
     item(0).sell();
     item(1).sell();
+    game->finances.setFunds(15);
     stand().concessionsNextMonth();
     EXPECT_EQ(concessionTotals(stand()).incomeLastMonth, "$4.20");
     EXPECT_EQ(item(0).lastmonthincome, 0);
     EXPECT_EQ(item(0).lastmonthsales, 1);
     EXPECT_EQ(item(0).thismonthsales, 0);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(item(i).stock, i < 2 ? 19 : 10) << i;
+    EXPECT_DOUBLE_EQ(game->finances.funds, 1);
+    EXPECT_EQ(game.screen.lines,
+              (std::vector<std::string>{"Unable to buy Candy this month, not enough money!!"}));
 }
 
 TEST_F(StandFixture, SalesTotalsAreThoseOfTheLastCrowd) {
@@ -138,7 +107,7 @@ TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
     game.screen.refreshed.clear();
     stand().setItemBuyQuant(2, 30);
     EXPECT_EQ(item(2).buypermonth, 30);
-    EXPECT_EQ(refreshes(game.screen, View::ConcessionTables), 5);
+    EXPECT_EQ(game.screen.refreshes(View::ConcessionTables), 5);
     EXPECT_EQ(concessionTotals(stand()).totalTotalCost, "$49");
     EXPECT_THROW(stand().setItemBuyQuant(5, 1), GameError);
     EXPECT_THROW(stand().setItemQuality(-1, 1), GameError);
@@ -147,5 +116,6 @@ TEST_F(StandFixture, ChangingAnOrderRebuildsTheTables) {
 TEST_F(StandFixture, YearlyInflationOnEveryItem) {
     stand().concessionsNextYear();
     for (int i = 0; i < 5; ++i)
-        EXPECT_DOUBLE_EQ(item(i).cost, 0.721);
+        EXPECT_DOUBLE_EQ(item(i).cost, 0.721); // the cost, never the price
+    EXPECT_EQ(item(4).price, 3);
 }

@@ -36,7 +36,7 @@ struct StandFixture : ::testing::Test {
         stand().initConcessions();
     }
 
-    // One customer who wants every item (rolls of 1), or none (rolls of 100).
+    // Customers who want every item: five rolls of 1 each.
     void allWant(int customers = 1) {
         for (int i = 0; i < 5 * customers; ++i)
             game->rng.force(0.0);

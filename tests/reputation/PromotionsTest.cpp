@@ -1,12 +1,8 @@
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "reputation/ReputationTexts.h"
-#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -23,15 +19,9 @@ struct PromoFixture : ::testing::Test {
     promoManager& promos() { return game->promos; }
 
     void SetUp() override {
-        MathVars& m = game->math;
-        const int points[] = {1, 3, 6, 10, 15};
-        const double costs[] = {18, 45, 75, 110, 150};
-        for (std::size_t i = 0; i < 5; ++i) {
-            m.promo[i] = points[i];
-            m.promocost[i] = costs[i];
-        }
-        m.promomax = 100;
-        m.inflation = 3;
+        game.math("promo0=1; promo1=3; promo2=6; promo3=10; promo4=15; promocost0=18;"
+                  "promocost1=45; promocost2=75; promocost3=110; promocost4=150; promomax=100;"
+                  "inflation=3");
         game->finances.setFunds(10000);
         promos().promosSetup();
     }
@@ -43,7 +33,7 @@ struct PromoFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
+TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCostsThatTheYearInflates) {
     EXPECT_EQ(promos().promoName,
               (std::array<std::string, 5>{"Nickel", "Paper", "Radio", "Billboard", "TV"}));
     EXPECT_EQ(promos().promoCost[4], 150);
@@ -54,35 +44,36 @@ TEST_F(PromoFixture, SetUpNamesTheMediaAndTakesTheCosts) {
     EXPECT_TRUE(v.rows.empty());
     EXPECT_EQ(v.currentPromoLevel, "0");
     EXPECT_EQ(v.totalDailyPayments, "$0");
-}
-
-TEST_F(PromoFixture, PointsAndCostOfTheRunningAds) {
     add(4, 2);
     add(1, 1);
     EXPECT_EQ(promos().getPromoPoints(), 33);
     EXPECT_EQ(promos().getPromoCost(), 345);
     EXPECT_EQ(promos().promoRunning[4], 2);
+    promos().promosNextYear(); // costs grow by inflation
+    EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
+    EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
+    EXPECT_EQ(promos().promoRunning[4], 2);
+    EXPECT_EQ(promotionsView(promos()).costLabels[3], "$113.30");
 }
 
-TEST_F(PromoFixture, ExactlyAtTheCapIsAccepted) {
-    add(4, 6); // 90
-    add(3, 1); // 100: exactly at promomax
-    EXPECT_EQ(promos().getPromoPoints(), 100);
-    EXPECT_EQ(game.screen.count(capMessage), 0);
-    add(0, 1); // 101: refused
-    EXPECT_EQ(promos().promoRunning[0], 0);
-    EXPECT_EQ(game.screen.count(capMessage), 1);
-    EXPECT_EQ(promos().getPromoPoints(), 100);
-}
-
-TEST_F(PromoFixture, OneBelowTheCapRefusesABiggerMedium) {
+TEST_F(PromoFixture, AnAdThatWouldPassTheCapIsRefusedOneThatReachesItIsNot) {
     add(4, 6);
     add(2, 1); // 96
     add(1, 1); // 99
     add(1, 1); // 102: refused
     EXPECT_EQ(promos().promoRunning[1], 1);
-    add(0, 1); // 100: accepted
+    EXPECT_EQ(game.screen.count(capMessage), 1);
+    add(0, 1); // 100: exactly at promomax
     EXPECT_EQ(promos().getPromoPoints(), 100);
+    add(0, 1); // 101: refused
+    EXPECT_EQ(promos().promoRunning[0], 1);
+    EXPECT_EQ(game.screen.count(capMessage), 2);
+    EXPECT_EQ(promos().getPromoPoints(), 100);
+    promos().dropAllPromos();
+    game->math.promo[4] = 20000;
+    game->math.promomax = 1e9;
+    promos().addPromo(4);
+    EXPECT_THROW(promos().addPromo(4), GameError); // past 16 bits of points
 }
 
 TEST_F(PromoFixture, AMediumWithoutPointsRunsWithoutLimitAndOffTheTable) {
@@ -116,15 +107,8 @@ TEST_F(PromoFixture, DropAndDropAll) {
     EXPECT_THROW(promos().dropPromo(-1), GameError);
 }
 
-TEST_F(PromoFixture, TheDailyChargeIsPaidUnderPromotions) {
-    add(4, 1);
-    add(1, 1);
-    promos().promosNextDay();
-    EXPECT_DOUBLE_EQ(game->finances.deppromo, 195);
-    EXPECT_DOUBLE_EQ(game->finances.funds, 10000 - 195);
-    EXPECT_EQ(promos().promoRunning[4], 1);
-}
-
+// The day's charge is paid under promotions, all or nothing: a refusal stops every ad, and
+// with nothing running the message still comes below one dollar.
 TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
     add(4, 1);
     add(1, 1);
@@ -142,27 +126,9 @@ TEST_F(PromoFixture, ARefusedChargeStopsEveryAd) {
     promos().promosNextDay();
     EXPECT_EQ(promos().promoRunning[4], 1);
     EXPECT_DOUBLE_EQ(game->finances.funds, 1);
-}
-
-TEST_F(PromoFixture, WithNothingRunningTheMessageComesBelowOneDollar) {
+    EXPECT_DOUBLE_EQ(game->finances.deppromo, 195);
+    promos().dropAllPromos();
     game->finances.setFunds(0.5);
     promos().promosNextDay();
-    promos().promosNextDay();
     EXPECT_EQ(game.screen.count(stopMessage), 2);
-}
-
-TEST_F(PromoFixture, YearlyInflation) {
-    add(3, 2);
-    promos().promosNextYear();
-    EXPECT_DOUBLE_EQ(promos().promoCost[3], 113.3);
-    EXPECT_DOUBLE_EQ(promos().promoCost[0], 18.54);
-    EXPECT_EQ(promos().promoRunning[3], 2);
-    EXPECT_EQ(promotionsView(promos()).costLabels[3], "$113.30");
-}
-
-TEST_F(PromoFixture, PointSumOverflowIsFatal) {
-    game->math.promo[4] = 20000;
-    game->math.promomax = 1e9;
-    promos().addPromo(4);
-    EXPECT_THROW(promos().addPromo(4), GameError); // 40000 points
 }

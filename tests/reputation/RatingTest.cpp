@@ -1,12 +1,8 @@
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "reputation/ReputationTexts.h"
-#include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -39,61 +35,48 @@ struct RatingFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(RatingFixture, WithNothingToCountTheRatingIsOne) {
+// With nothing to count the rating is 1; the stand's term is its weight's percent of the
+// quality score, and the sum is clamped to 100.
+TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     rating().ratingNextDay();
     EXPECT_EQ(rating().getRating(), 1);
     EXPECT_EQ(rating().dayTerms(), (std::array<int, 11>{}));
-}
-
-TEST_F(RatingFixture, TheConcessionsTermUsesTheQualityScore) {
     qualities(2);
     (*game)->math.ratingconcessions = 20;
     const std::array<int, 11> t = rating().dayTerms();
     EXPECT_EQ(t[4], 25);
     EXPECT_EQ(rating().ratingOfTheDay(), 25);
+    (*game)->math.ratingconcessions = 200;
+    EXPECT_EQ(rating().ratingOfTheDay(), 100);
 }
 
+// A score of 125 weighted 80 is a rating of 100, weighted 40 one of 50; each day the
+// average moves halfway to the day's rating, floored.
 TEST_F(RatingFixture, TheDailyAverageIsFloored) {
     qualities(2);
-    (*game)->math.ratingconcessions = 80; // 125 * 0.8 = 100
     rating().currentAverage = 0;
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 100);
-    EXPECT_EQ(rating().currentAverage, 50);
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentAverage, 75);
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentAverage, 87); // 87.5 floored
-    EXPECT_EQ(ratingCaption(rating()), "100 %");
-    EXPECT_EQ(ratingBarWidth(rating(), 1500), 1500);
-
-    (*game)->math.ratingconcessions = 40; // 50
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 50);
-    EXPECT_EQ(rating().currentAverage, 68); // (87 + 50) / 2
+    const int days[][3] = {{80, 100, 50}, {80, 100, 75}, {80, 100, 87}, {40, 50, 68}};
+    for (const auto& [weight, day, average] : days) {
+        (*game)->math.ratingconcessions = weight;
+        rating().ratingNextDay();
+        EXPECT_EQ(rating().currentRating, day);
+        EXPECT_EQ(rating().currentAverage, average) << weight << " " << day;
+    }
+    EXPECT_EQ(ratingCaption(rating()), "50 %");
     EXPECT_EQ(ratingBarWidth(rating(), 1001), 500);
 }
 
-TEST_F(RatingFixture, TheSumClampsAtOneHundred) {
-    qualities(2);
-    (*game)->math.ratingconcessions = 200;
-    rating().ratingNextDay();
-    EXPECT_EQ(rating().currentRating, 100);
-}
-
-TEST_F(RatingFixture, StartDrawsEveryBarEmpty) {
+// Start-up draws every bar empty, January's green; a month's end keeps its rating (not the
+// average) in its bar, and a new year paints the bars neutral.
+TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     const auto& bars = rating().bars();
     for (int m = 0; m < 12; ++m) {
         EXPECT_EQ(bars[m].top, 2820) << m;
         EXPECT_EQ(bars[m].height, 0) << m;
         EXPECT_EQ(bars[m].tip, "0%") << m;
     }
-    // Start-up stands on January: its bar is green, the rest neutral.
     EXPECT_EQ(bars[0].colour, 0x00C000u);
     EXPECT_EQ(bars[1].colour, 0x80FFFFu);
-}
-
-TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     (*game)->calendar.currentmonth = 3;
     rating().currentRating = 57;
     rating().currentAverage = 40;
@@ -105,16 +88,11 @@ TEST_F(RatingFixture, TheMonthKeepsTheRatingNotTheAverage) {
     EXPECT_EQ(bar.height, 411);
     EXPECT_EQ(bar.colour, 0x00C000u);
     EXPECT_EQ(bar.tip, "57%");
-
-    // A new year paints the bars neutral and leaves their heights.
     rating().ratingNextYear();
     EXPECT_EQ(rating().bars()[3].colour, 0x80FFFFu);
     EXPECT_EQ(rating().bars()[3].height, 411);
     EXPECT_EQ(rating().history[3], 57);
-}
-
-TEST_F(RatingFixture, AMonthOutOfRangeIsABoundsError) {
-    (*game)->calendar.currentmonth = 12;
+    (*game)->calendar.currentmonth = 12; // out of range
     EXPECT_THROW(rating().ratingNextMonth(), GameError);
 }
 
