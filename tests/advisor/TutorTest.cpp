@@ -131,14 +131,6 @@ TEST(Tutor, CloseAsksOnlyWhileTheBoxIsTicked) {
     EXPECT_EQ(game.tutor.step, 1);
 }
 
-TEST(Tutor, StaysHiddenAtPlayWhenSwitchedOff) {
-    SoundGame g;
-    g.settings.set("other", "tutor", "0");
-    Game& game = g.start();
-    EXPECT_FALSE(game.tutor.visible);
-    EXPECT_EQ(game.tutor.step, 0);
-}
-
 // A step shown again after a day or a rent change shows the new week and rent.
 TEST(Tutor, StepShownAgainShowsTheNewFigures) {
     SoundGame g;

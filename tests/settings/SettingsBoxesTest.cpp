@@ -7,37 +7,37 @@ using namespace zorvane;
 using namespace zorvane::test;
 
 namespace {
-const SettingsBox allBoxes[] = {SettingsBox::Sound, SettingsBox::Music, SettingsBox::Click,
-                                SettingsBox::Tutor};
-}
+// Each box with the section and key of the store it reads and writes.
+struct BoxKey {
+    SettingsBox box;
+    const char* section;
+    const char* key;
+};
+const BoxKey boxKeys[] = {{SettingsBox::Sound, "sound", "effects"},
+                          {SettingsBox::Music, "sound", "music"},
+                          {SettingsBox::Click, "sound", "click"},
+                          {SettingsBox::Tutor, "other", "tutor"}};
+} // namespace
 
-TEST(SettingsBoxes, EmptyStoreTicksEveryBoxAndWritesIt) {
-    SoundGame g;
-    Game& game = g.start();
-    for (SettingsBox b : allBoxes)
-        EXPECT_EQ(game.settingsBoxes.value(b), 1) << SettingsBoxes::box(b).control;
-    EXPECT_EQ(g.stored("sound", "effects"), "1");
-    EXPECT_EQ(g.stored("sound", "music"), "1");
-    EXPECT_EQ(g.stored("sound", "click"), "1");
-    EXPECT_EQ(g.stored("other", "tutor"), "1");
-}
-
-// Each box reads its own section and key: a "0" there clears that box alone.
-TEST(SettingsBoxes, EachBoxReadsItsKey) {
-    struct Case {
-        const char* section;
-        const char* key;
-        SettingsBox box;
-    };
-    for (const Case& c :
-         {Case{"sound", "effects", SettingsBox::Sound}, Case{"sound", "music", SettingsBox::Music},
-          Case{"sound", "click", SettingsBox::Click}, Case{"other", "tutor", SettingsBox::Tutor}}) {
+// An empty store ticks every box and writes it. Each box reads its own section and key: a
+// "0" there clears that box alone, and an unchanged box writes nothing; the advisor opens at
+// "Play !" only with its box ticked.
+TEST(SettingsBoxes, EmptyStoreTicksEveryBoxAndEachBoxReadsItsKey) {
+    SoundGame fresh;
+    Game& ticked = fresh.start();
+    for (const BoxKey& k : boxKeys) {
+        EXPECT_EQ(ticked.settingsBoxes.value(k.box), 1) << k.key;
+        EXPECT_EQ(fresh.stored(k.section, k.key), "1") << k.key;
+    }
+    for (const BoxKey& cleared : boxKeys) {
         SoundGame g;
-        g.settings.set(c.section, c.key, "0");
+        g.settings.set(cleared.section, cleared.key, "0");
         Game& game = g.start();
-        for (SettingsBox b : allBoxes)
-            EXPECT_EQ(game.settingsBoxes.value(b), b == c.box ? 0 : 1) << c.key;
-        EXPECT_EQ(g.stored(c.section, c.key), "0") << c.key; // an unchanged box writes nothing
+        for (const BoxKey& k : boxKeys)
+            EXPECT_EQ(game.settingsBoxes.value(k.box), &k == &cleared ? 0 : 1) << cleared.key;
+        EXPECT_EQ(g.stored(cleared.section, cleared.key), "0") << cleared.key;
+        EXPECT_EQ(game.tutor.visible, cleared.box != SettingsBox::Tutor) << cleared.key;
+        EXPECT_EQ(game.tutor.step, cleared.box == SettingsBox::Tutor ? 0 : 1) << cleared.key;
     }
 }
 
@@ -59,18 +59,13 @@ TEST(SettingsBoxes, StoredTextReadsByItsLeadingNumber) {
 TEST(SettingsBoxes, ClickHandlersWriteTheStoreAtOnce) {
     SoundGame g;
     Game& game = g.start();
-    struct Case {
-        SettingsBox box;
-        const char* section;
-        const char* key;
-    };
-    for (const Case& c :
-         {Case{SettingsBox::Sound, "sound", "effects"}, Case{SettingsBox::Music, "sound", "music"},
-          Case{SettingsBox::Click, "sound", "click"}}) {
-        game.settingsBoxes.setBox(c.box, 0);
-        EXPECT_EQ(g.stored(c.section, c.key), "0") << c.key;
-        game.settingsBoxes.setBox(c.box, 1);
-        EXPECT_EQ(g.stored(c.section, c.key), "1") << c.key;
+    for (const BoxKey& k : boxKeys) {
+        if (k.box == SettingsBox::Tutor)
+            continue; // the advisor's box has rules of its own
+        game.settingsBoxes.setBox(k.box, 0);
+        EXPECT_EQ(g.stored(k.section, k.key), "0") << k.key;
+        game.settingsBoxes.setBox(k.box, 1);
+        EXPECT_EQ(g.stored(k.section, k.key), "1") << k.key;
     }
 }
 
