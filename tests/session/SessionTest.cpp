@@ -1,7 +1,6 @@
 // The session: the log, the questions around quitting and new games, the speed, the
 // command-line argument, the main screen's layout, the title screen and the calendar's day.
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "core/Text.h"
 #include "session/Game.h"
 #include "session/MainTexts.h"
@@ -242,13 +241,6 @@ TEST_F(TitleFixture, FileMenuOptionsRunTheGameOperations) {
         ASSERT_FALSE(transcript.empty()) << c.option;
         EXPECT_EQ(transcript.front(), c.asked) << c.option;
     }
-
-    // Save As cancelled in the dialog leaves the game with no path at all.
-    game->savedPath = data.file("before.zvn");
-    transcript.clear();
-    runFileOption(*game, 3);
-    EXPECT_EQ(transcript, std::vector<std::string>{"save file: Save Theater -> "});
-    EXPECT_TRUE(game->savedPath.empty());
 
     data.setMath({{"gamespeed3", "77"}});
     runFileOption(*game, 5);
