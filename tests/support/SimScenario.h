@@ -35,6 +35,20 @@ inline void expectChecks(const nlohmann::json& before, const nlohmann::json& aft
     }
 }
 
+// A simulator on the program folder `data`, writing to `out`, after start-up and "Play !"
+// on `goal`.
+inline std::unique_ptr<sim::Simulator> startSimulator(const DataFolder& data, std::uint64_t seed,
+                                                      std::ostream& out, int goal = 0) {
+    sim::SimOptions options;
+    options.dataDir = data.path().string();
+    options.seed = seed;
+    options.goal = goal;
+    options.quiet = true;
+    auto simulator = std::make_unique<sim::Simulator>(options, out);
+    simulator->startup();
+    return simulator;
+}
+
 // A whole game on a copy of the shipped data, after start-up and "Play !" (on `goal`), driven by
 // script lines exactly as zorvane-sim runs them.
 class SimScenario : public ::testing::Test {
@@ -45,13 +59,7 @@ class SimScenario : public ::testing::Test {
     int lineNumber = 0;
 
     void start(std::uint64_t seed, int goal = 0) {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = seed;
-        options.goal = goal;
-        options.quiet = true;
-        simulator = std::make_unique<sim::Simulator>(options, out);
-        simulator->startup();
+        simulator = startSimulator(data, seed, out, goal);
     }
     void run(const std::string& line) { simulator->runLine(line, ++lineNumber); }
     Game& game() { return simulator->game(); }
