@@ -113,14 +113,6 @@ TEST_F(SessionFixture, NewGameAsksByWhetherAPathIsKnown) {
     EXPECT_THROW(game->newGame(), ProcessEnded);
 }
 
-TEST_F(SessionFixture, ReportErrorAsksWhetherToContinue) {
-    game.dialogs.answers = {Answer::Yes};
-    game->reportError("Bad mode 9");
-    EXPECT_EQ(game.dialogs.asked.back(), "Bad mode 9\r\nContinue program?");
-    game.dialogs.answers = {Answer::No};
-    EXPECT_THROW(game->reportError("again"), ProcessEnded);
-}
-
 TEST_F(SessionFixture, SpeedRemembersThroughAStop) {
     game->setSpeed(2);
     game->setSpeed(-1);
@@ -165,6 +157,7 @@ TEST_F(TitleFixture, ExpandTogglesOrSetsTheDetailsAndTheHeightsFollow) {
     EXPECT_EQ(game.screen.refreshed.back(), View::Expand);
 }
 
+// The refusal is the game's error report: the question, then a No ends the process.
 TEST_F(TitleFixture, SwitchModeRefusesANumberOutsideTheEightModes) {
     game->switchMode(5);
     EXPECT_EQ(game->currentMode, 5);
