@@ -3,6 +3,7 @@
 // run-time error with a message that names the problem, or reads as it should.
 #include "core/GameError.h"
 #include "core/Numbers.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -89,13 +90,10 @@ TEST(LoaderFindings, OnlyAHugeFigureStopsASavedGameNotTextsOrUnknownKeysThatLook
                   "<building>\r\nmood=1e999\r\nseating=77\r\n</building>\r\n"
                   "<loans>\r\nmood=1e999\r\nbalance=12\r\n</loans>\r\n"
                   "<finances>\r\nmood=1e999\r\nfunds=34\r\n</finances>\r\n"));
-    ASSERT_EQ(game->employees.employeeCount(), 1);
-    EXPECT_EQ(game->employees.getEmployee(1).name, "9e999 Smith");
-    EXPECT_EQ(game->employees.getEmployee(1).exp, 3);
-    EXPECT_EQ(game->building.getSeating(), 77);
-    EXPECT_EQ(game->loans.getBalance(), 12);
-    EXPECT_EQ(game->finances.getFunds(), 34);
-    EXPECT_EQ(game->calendar.currentday, 3);
+    expectChecks({}, sim::gameState(*game),
+                 R"({"/employees#": 1, "/employees/0/name": "9e999 Smith", "/employees/0/exp": 3,
+                     "/building/seating": 77, "/loan/balance": 12, "/funds": 34,
+                     "/calendar/currentday": 3})");
 }
 
 } // namespace

@@ -325,21 +325,17 @@ TEST_F(GoalMenuScript, PicksPlaysAgainAndCountsAReachedGoal) {
     EXPECT_EQ(state()["funds"], 15000);
     game().finances.spend(5000, "labor");
     run("goal 2"); // no starting funds: the money stays
-    EXPECT_EQ(state()["funds"], 10000);
-    EXPECT_EQ(state()["goal"]["selected"], 2);
-    EXPECT_EQ(state()["goal"]["type"], "purchase");
+    expectChecks({}, state(),
+                 R"({"/funds": 10000, "/goal/selected": 2, "/goal/type": "purchase"})");
     EXPECT_THROW(run("goal 3"), sim::ScriptError);
     EXPECT_THROW(run("goal -1"), sim::ScriptError);
     run("day 2");
     run("goal 1");
-    EXPECT_EQ(state()["funds"], 15000);
     EXPECT_EQ(simulator->dialogs().asked.back().rfind("Goal name: Shoestring\r\n", 0), 0u);
-    EXPECT_EQ(state()["goal"], nlohmann::json::parse(R"({"selected": 1, "type": "funds",
-        "value": 75000, "deadline": 2, "achieved": false})"));
-    EXPECT_EQ(state()["goalShown"], 0);
+    expectChecks({}, state(), R"({"/funds": 15000, "/goalShown": 0, "/goal": {"selected": 1,
+        "type": "funds", "value": 75000, "deadline": 2, "achieved": false}})");
     simulator->dialogs().answers = {Answer::Yes};
     game().finances.setFunds(90000);
     run("day");
-    EXPECT_EQ(state()["goal"]["achieved"], true);
-    EXPECT_EQ(state()["goalShown"], 1);
+    expectChecks({}, state(), R"({"/goal/achieved": true, "/goalShown": 1})");
 }

@@ -84,19 +84,12 @@ TEST_F(SettingsCommands, ScriptDrivesBoxesAdvisorAndModes) {
     run("settings click 0");
     run("advisor prev");
     run("mode 2");
-    auto s = state();
-    EXPECT_EQ(s["chkMusic"], 0);
-    EXPECT_EQ(s["chkClick"], 0);
-    EXPECT_EQ(s["musicPlaying"], false);
-    EXPECT_EQ(s["advisorStep"], 2);
-    EXPECT_EQ(s["advisorVisible"], true);
-    EXPECT_EQ(s["currentSound"], 2);
-    EXPECT_EQ(s["soundsPlayed"],
-              nlohmann::json({"theme.ogg", "click.wav", "click.wav", "movies.wav"}));
+    expectChecks({}, state(),
+                 R"({"/chkMusic": 0, "/chkClick": 0, "/musicPlaying": false, "/advisorStep": 2,
+                     "/advisorVisible": true, "/currentSound": 2,
+                     "/soundsPlayed": ["theme.ogg", "click.wav", "click.wav", "movies.wav"]})");
     run("advisor close");
-    s = state();
-    EXPECT_EQ(s["advisorVisible"], false);
-    EXPECT_EQ(s["chkTutor"], 0);
+    expectChecks({}, state(), R"({"/advisorVisible": false, "/chkTutor": 0})");
     for (const char* bad : {"settings volume 1", "settings music 2", "advisor jump", "mode x"})
         EXPECT_THROW(run(bad), sim::ScriptError) << bad;
 }
