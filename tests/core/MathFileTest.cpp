@@ -60,7 +60,12 @@ TEST_F(MathFixture, ACommentLineHoldingEqualsReappliesThePreviousEntry) {
     EXPECT_EQ(game->math.gamespeed[1], 5);
 }
 
-TEST_F(MathFixture, VersionQuestionWordForWordAndYesReadsOn) {
+// A matching or missing version asks nothing; another asks, word for word, and Yes reads on.
+TEST_F(MathFixture, VersionQuestionOnlyForAnotherVersionAndYesReadsOn) {
+    load("mathver=2.0.1   \ngamespeed1=3\n");
+    load("gamespeed1=4\n");
+    EXPECT_TRUE(game.dialogs.asked.empty());
+    EXPECT_EQ(game->math.gamespeed[1], 4);
     game.dialogs.answers = {Answer::Yes};
     const std::string path = dir.file("math.txt");
     load("gamespeed1=1\nmathver=1.9.9  \ngamespeed2=2\n");
@@ -79,14 +84,7 @@ TEST_F(MathFixture, VersionRefusedEndsTheProcessWithEarlierEntriesInForce) {
     EXPECT_EQ(game->math.gamespeed[2], 0);
 }
 
-TEST_F(MathFixture, MatchingOrMissingVersionAsksNothing) {
-    load("mathver=2.0.1   \ngamespeed1=3\n");
-    load("gamespeed1=4\n");
-    EXPECT_TRUE(game.dialogs.asked.empty());
-    EXPECT_EQ(game->math.gamespeed[1], 4);
-}
-
-TEST_F(MathFixture, FatalValuesNameTheFileLineAndKey) {
+TEST_F(MathFixture, FatalValuesNameTheFileLineAndKeyAndAMissingFileIsFatal) {
     try {
         load("gamespeed1=1\n\ngamespeed2=40000\n");
         FAIL() << "no overflow";
@@ -103,11 +101,8 @@ TEST_F(MathFixture, FatalValuesNameTheFileLineAndKey) {
         EXPECT_EQ(e.kind(), GameError::Kind::Type);
         EXPECT_NE(std::string(e.what()).find("concess2buy"), std::string::npos);
     }
-}
-
-TEST_F(MathFixture, AMissingFileIsFatal) {
-    std::string path = dir.file("nothing.txt");
-    EXPECT_THROW(game->mathFile.loadMath(game->math, game->dialogs(), path), GameError);
+    std::string missing = dir.file("nothing.txt");
+    EXPECT_THROW(game->mathFile.loadMath(game->math, game->dialogs(), missing), GameError);
 }
 
 TEST_F(MathFixture, AnEmptyPathReadsTheStoredFileAgain) {

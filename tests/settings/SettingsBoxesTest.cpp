@@ -158,7 +158,7 @@ TEST(SoundBoard, ModeCuesStopTheLastAndMoveOnlyWhenOneStarts) {
     EXPECT_EQ(game.soundBoard.currentSound, 7);
 }
 
-TEST(SoundBoard, ClearingMusicStopsItAndTheEndNoticeDoesNotRestartIt) {
+TEST(SoundBoard, MusicAndClickFollowTheirBoxesAndTheEndNoticeDoesNotRestartTheMusic) {
     SoundGame g;
     Game& game = g.start();
     game.soundBoard.musicEnded(); // the loop
@@ -171,15 +171,10 @@ TEST(SoundBoard, ClearingMusicStopsItAndTheEndNoticeDoesNotRestartIt) {
     game.settingsBoxes.setBox(SettingsBox::Music, 1);
     EXPECT_TRUE(g.sound.playing[music]);
     EXPECT_EQ(g.sound.played.size(), 3u);
-}
-
-TEST(SoundBoard, ClickFollowsItsBox) {
-    SoundGame g;
-    Game& game = g.start();
+    // The click follows its own box.
     game.soundBoard.playClick();
     EXPECT_EQ(g.sound.played.back(), "click.wav");
-    const std::size_t heard = g.sound.played.size();
     game.settingsBoxes.setBox(SettingsBox::Click, 0);
     game.soundBoard.playClick();
-    EXPECT_EQ(g.sound.played.size(), heard);
+    EXPECT_EQ(g.sound.played.size(), 4u);
 }

@@ -51,7 +51,7 @@ class RecordingScreen : public NullScreen {
     std::vector<View> refreshed;
     std::vector<int> modes;
     std::vector<std::string> details; // the title screen's status box, replaced
-    int loseShown = 0, logClears = 0, goalPictures = 0, titleShown = 0;
+    int loseShown = 0, goalPictures = 0, titleShown = 0;
     bool visible = false; // the building screen
 
     void logLine(const std::string& line, bool cleared) override {
@@ -59,10 +59,7 @@ class RecordingScreen : public NullScreen {
             lines.clear();
         lines.push_back(line);
     }
-    void logCleared() override {
-        ++logClears;
-        lines.clear();
-    }
+    void logCleared() override { lines.clear(); }
     void titleStatus(const std::string& line) override { status.push_back(line); }
     void refresh(View v) override { refreshed.push_back(v); }
     void showLose(LoseReason) override { ++loseShown; }
@@ -76,10 +73,10 @@ class RecordingScreen : public NullScreen {
 };
 
 struct RecordingDialogs : ScriptedDialogs {
-    std::vector<Buttons> buttons;           // of each message box, in order
-    std::vector<FileMode> fileModes;        // of each file dialog, in order
-    std::vector<std::string> filters;       // of each file dialog
-    std::string prompt, title, defaultText; // of the last input box
+    std::vector<Buttons> buttons;     // of each message box, in order
+    std::vector<FileMode> fileModes;  // of each file dialog, in order
+    std::vector<std::string> filters; // of each file dialog
+    std::string defaultText;          // of the last input box
     Answer ask(const std::string& text, Buttons b) override {
         buttons.push_back(b);
         return ScriptedDialogs::ask(text, b);
@@ -91,8 +88,6 @@ struct RecordingDialogs : ScriptedDialogs {
         return ScriptedDialogs::chooseFile(mode, filter, caption);
     }
     std::string input(const std::string& p, const std::string& t, const std::string& d) override {
-        prompt = p;
-        title = t;
         defaultText = d;
         return ScriptedDialogs::input(p, t, d);
     }
