@@ -129,8 +129,6 @@ struct ReaderCase {
 
 const ReaderCase readerCases[] = {
     // The container: version, tags and lines between sections.
-    {"SameVersionAsksNothing", version + "<calendar>\r\ncurrentday=3\r\n</calendar>\r\n",
-     R"({"/calendar/currentday": 3})"},
     {"VersionKeyInAnyCase",
      "<version>\r\nPROGRAMVERSION=2.0.1\r\n</version>\r\n<calendar>\r\ncurrentday=4\r\n",
      R"({"/calendar/currentday": 4})"},

@@ -73,10 +73,10 @@ class RecordingScreen : public NullScreen {
 };
 
 struct RecordingDialogs : ScriptedDialogs {
-    std::vector<Buttons> buttons;     // of each message box, in order
-    std::vector<FileMode> fileModes;  // of each file dialog, in order
-    std::vector<std::string> filters; // of each file dialog
-    std::string defaultText;          // of the last input box
+    std::vector<Buttons> buttons;           // of each message box, in order
+    std::vector<FileMode> fileModes;        // of each file dialog, in order
+    std::vector<std::string> filters;       // of each file dialog
+    std::string prompt, title, defaultText; // of the last input box
     Answer ask(const std::string& text, Buttons b) override {
         buttons.push_back(b);
         return ScriptedDialogs::ask(text, b);
@@ -88,6 +88,8 @@ struct RecordingDialogs : ScriptedDialogs {
         return ScriptedDialogs::chooseFile(mode, filter, caption);
     }
     std::string input(const std::string& p, const std::string& t, const std::string& d) override {
+        prompt = p;
+        title = t;
         defaultText = d;
         return ScriptedDialogs::input(p, t, d);
     }
