@@ -27,7 +27,7 @@ struct GoalFile : ::testing::Test {
 
 } // namespace
 
-TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
+TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsBetweenTheirTagsInFileOrder) {
     goalManager& g = load("# a comment\r\n<goal>\r\nname=First\r\n</goal>\r\nname=Outside\r\n"
                           "<GOAL>\r\nname=Second\r\n</goal>\r\n<Goal>\r\n</goal>\r\n");
     EXPECT_EQ(g.getLastGoal(), 3);
@@ -40,6 +40,14 @@ TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
     EXPECT_EQ(free.getDesc(), "Play without any goals");
     EXPECT_EQ(g.getSelected(), 0);
     EXPECT_THROW(g.getGoal(4), GameError);
+
+    // Any line beginning with "</" closes a goal, the end of the file closes the last one,
+    // and an opening line must be exactly the tag.
+    EXPECT_EQ(goalList(load("<goal>\nname=A\n</whatever>\ntype=funds\n<goal>\nname=B\n")),
+              (std::vector<std::string>{"Free Play", "A", "B"}));
+    EXPECT_EQ((*session)->goals.getGoal(1).getType(), ""); // the type line stood outside
+    EXPECT_EQ(goalList(load("<goal> \n name=x\n<goal>x\n <goal>\n")),
+              std::vector<std::string>{"Free Play"});
 }
 
 TEST_F(GoalFile, KeysAndValuesAreReadAsWrittenAbsentOnesStayEmpty) {
@@ -78,19 +86,6 @@ TEST_F(GoalFile, KeysAndValuesAreReadAsWrittenAbsentOnesStayEmpty) {
     for (const std::string& figure :
          {sloppy.getCs(), sloppy.getPayplan(), sloppy.getDebt(), sloppy.getFunds()})
         EXPECT_EQ(figure, "");
-}
-
-TEST_F(GoalFile, AnyLineBeginningWithSlashClosesAGoal) {
-    goalManager& g = load("<goal>\nname=A\n</whatever>\ntype=funds\n<goal>\nname=B\n");
-    EXPECT_EQ(g.getLastGoal(), 2);
-    EXPECT_EQ(g.getGoal(1).getType(), "");  // the type line stood outside the goal
-    EXPECT_EQ(g.getGoal(2).getName(), "B"); // the end of the file closes the last one
-}
-
-TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
-    goalManager& g = load("<goal> \n name=x\n<goal>x\n <goal>\n");
-    EXPECT_EQ(g.getLastGoal(), 0);
-    EXPECT_EQ(goalList(g), std::vector<std::string>{"Free Play"});
 }
 
 TEST_F(GoalFile, AMissingFileOrADeadlineBeyondSixteenBitsIsFatal) {

@@ -53,7 +53,7 @@ struct CalendarFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(SessionFixture, LogSlotsKeepAMessageToOnceADay) {
+TEST_F(SessionFixture, LogSlotsKeepAMessageToOnceADayAndTheBoxIsClearedWhenFull) {
     game->gameLog("a", 7);
     game->gameLog("a", 7);
     game->gameLog("b", 0);
@@ -65,9 +65,7 @@ TEST_F(SessionFixture, LogSlotsKeepAMessageToOnceADay) {
     EXPECT_THROW(game->gameLog("x", 21), GameError);
     EXPECT_THROW(game->gameLog("x", -1), GameError);
     EXPECT_EQ(game->logBox, "\r\na\r\nb\r\nb\r\na");
-}
-
-TEST_F(SessionFixture, TheLogBoxIsClearedPast65000Characters) {
+    // The log box is cleared past 65000 characters.
     const std::string line(999, 'x');
     while (game->logBox.size() <= 65000)
         game->gameLog(line, 0);
