@@ -152,6 +152,26 @@ const RunCase runCases[] = {
     {"RenovatingAWornHouse", {"day 28", "renovate"}, R"({"/building/condition": 100})"},
 };
 
+// One whole run of `script`, as zorvane-sim runs it.
+struct ScriptRun {
+    int status;
+    std::string out, err;
+    json state; // of the game after the run
+};
+
+ScriptRun runScript(const DataFolder& data, const std::vector<std::string>& script,
+                    std::uint64_t seed, const std::string& arg = "", bool quiet = true) {
+    sim::SimOptions options;
+    options.dataDir = data.path().string();
+    options.seed = seed;
+    options.arg = arg;
+    options.quiet = quiet;
+    std::ostringstream out, err;
+    sim::Simulator simulator(options, out);
+    const int status = simulator.run(script, err);
+    return {status, out.str(), err.str(), sim::gameState(simulator.game())};
+}
+
 struct SimRuns : ::testing::TestWithParam<RunCase> {};
 
 TEST_P(SimRuns, StatusOutputAndState) {
@@ -159,43 +179,25 @@ TEST_P(SimRuns, StatusOutputAndState) {
     DataFolder data;
     for (const auto& [key, value] : c.math)
         data.setMath({{key, value}});
-    sim::SimOptions options;
-    options.dataDir = data.path().string();
-    options.seed = 3;
-    options.quiet = c.quiet;
-    std::ostringstream out, err;
-    sim::Simulator simulator(options, out);
-    ASSERT_EQ(simulator.run(c.script, err), c.status) << err.str();
+    const ScriptRun run = runScript(data, c.script, 3, "", c.quiet);
+    ASSERT_EQ(run.status, c.status) << run.err;
     if (c.status == 2) {
-        EXPECT_NE(err.str().find("script line " + std::to_string(c.script.size()) + ": "),
+        EXPECT_NE(run.err.find("script line " + std::to_string(c.script.size()) + ": "),
                   std::string::npos)
-            << err.str();
+            << run.err;
     }
     for (const std::string& text : c.outHas)
-        EXPECT_NE(out.str().find(text), std::string::npos) << text << "\n" << out.str();
+        EXPECT_NE(run.out.find(text), std::string::npos) << text << "\n" << run.out;
     for (const std::string& text : c.errHas)
-        EXPECT_NE(err.str().find(text), std::string::npos) << text << "\n" << err.str();
+        EXPECT_NE(run.err.find(text), std::string::npos) << text << "\n" << run.err;
     if (!c.stateShown) {
-        EXPECT_EQ(out.str().find("{"), std::string::npos); // nothing after the end ran
+        EXPECT_EQ(run.out.find("{"), std::string::npos); // nothing after the end ran
     }
-    expectChecks(json::object(), sim::gameState(simulator.game()), c.checks);
+    expectChecks(json::object(), run.state, c.checks);
 }
 
 INSTANTIATE_TEST_SUITE_P(Runs, SimRuns, ::testing::ValuesIn(runCases),
                          [](const auto& row) { return std::string(row.param.name); });
-
-std::string runScript(const DataFolder& data, const std::vector<std::string>& script,
-                      std::uint64_t seed, const std::string& arg = "") {
-    sim::SimOptions options;
-    options.dataDir = data.path().string();
-    options.seed = seed;
-    options.arg = arg;
-    options.quiet = true;
-    std::ostringstream out, err;
-    sim::Simulator simulator(options, out);
-    EXPECT_EQ(simulator.run(script, err), 0) << err.str();
-    return out.str();
-}
 
 } // namespace
 
@@ -204,9 +206,10 @@ TEST(Simulator, AMathFileArgumentReplacesMathTxtAlsoOnReload) {
     const std::string math = readFile(data.file("math.txt"));
     const std::string mth = data.write("custom.MTH", math + "\nfundsmin=-12345\ngamespeed1=7\n");
     data.setMath({{"gamespeed1", "5"}});
-    const json state = json::parse(runScript(data, {"reloadmath", "state"}, 1, "\"" + mth + "\""));
-    EXPECT_EQ(state["math"]["gamespeed"][1], 7);
-    EXPECT_EQ(state["math"]["fundsmin"], -12345);
+    const ScriptRun run = runScript(data, {"reloadmath"}, 1, "\"" + mth + "\"");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.state["math"]["gamespeed"][1], 7);
+    EXPECT_EQ(run.state["math"]["fundsmin"], -12345);
 }
 
 TEST(Simulator, TheDemoScriptHiresItsStaffInItsMonth) {
@@ -215,34 +218,28 @@ TEST(Simulator, TheDemoScriptHiresItsStaffInItsMonth) {
     std::istringstream in(readFile(data.file("demo.txt")));
     for (std::string line; std::getline(in, line);)
         script.push_back(line);
-    sim::SimOptions options;
-    options.dataDir = data.path().string();
-    options.seed = 2026;
-    std::ostringstream out, err;
-    sim::Simulator simulator(options, out);
-    ASSERT_EQ(simulator.run(script, err), 0) << err.str();
+    const ScriptRun run = runScript(data, script, 2026, "", false);
+    ASSERT_EQ(run.status, 0) << run.err;
     int hired = 0;
-    for (std::size_t p = out.str().find(" is a new member"); p != std::string::npos;
-         p = out.str().find(" is a new member", p + 1))
+    for (std::size_t p = run.out.find(" is a new member"); p != std::string::npos;
+         p = run.out.find(" is a new member", p + 1))
         ++hired;
     EXPECT_EQ(hired, 7);
-    EXPECT_EQ(simulator.game().calendar.currentmonth, 1);
+    EXPECT_EQ(run.state["calendar"]["currentmonth"], 1);
 }
 
 TEST(Simulator, GraphRedrawAndAMonthsBox) {
     DataFolder data;
-    const std::string out =
-        runScript(data, {"day 28", "graph", "monthfunds 10", "monthfunds 11", "state"}, 1);
-    const json state = json::parse(out.substr(out.rfind("\n{", out.size() - 2) + 1));
-    const double january = state["histfunds"][0].get<double>();
-    EXPECT_NE(out.find("ask: Funds for the month of Jan: " + formatMoney(january) + " -> ok\n"),
+    const ScriptRun run = runScript(data, {"day 28", "graph", "monthfunds 10", "monthfunds 11"}, 1);
+    const double january = run.state["histfunds"][0].get<double>();
+    EXPECT_NE(run.out.find("ask: Funds for the month of Jan: " + formatMoney(january) + " -> ok\n"),
               std::string::npos)
-        << out;
-    EXPECT_NE(out.find("ask: Funds for the month of Feb: $0 -> ok\n"), std::string::npos);
-    const auto& graph = state["graph"];
+        << run.out;
+    EXPECT_NE(run.out.find("ask: Funds for the month of Feb: $0 -> ok\n"), std::string::npos);
+    const auto& graph = run.state["graph"];
     EXPECT_EQ(graph["graphMonth"][11], 1);
     EXPECT_EQ(graph["monthNames"][10], "Jan");
-    EXPECT_EQ(graph["graphHigh"], std::max(january, state["funds"].get<double>()));
+    EXPECT_EQ(graph["graphHigh"], std::max(january, run.state["funds"].get<double>()));
     EXPECT_EQ(graph["scale"].size(), 10u);
     EXPECT_EQ(graph["pointY"].size(), 12u);
 }
