@@ -260,18 +260,14 @@ const ReaderCase readerCases[] = {
          after,
      R"({"/showtimes/1/movie": 4, "/calendar/currentyear": null})"},
     // The staff.
-    {"EmployeeNumbersOfTheFileAreIgnored",
-     version + "<emps>\r\nminwage=6\r\n<employee>\r\nnum= 42\r\nname=Ann Able\r\njob=3\r\n"
-               "</employee>\r\n</EMPS>\r\n<calendar>\r\ncurrentyear=2\r\n</calendar>\r\n",
-     R"({"/employees/0/num": 1, "/positions/2/myEmployee": 1, "/minWage": 6,
-         "/calendar/currentyear": 2})"},
+    // The file's employee numbers are ignored; the staff's close tag in any case.
     {"EmployeeBlock",
-     version + "<emps>\r\n<employee>\r\nnum= 9\r\nNAME=Zed = Zimmer\r\nexp=2.5\r\nJob= 3\r\n"
-               "something=1\r\nfillingin=-1\r\ndaysworked=70000\r\nnoequals\r\n=5\r\n"
-               "</employee>\r\n</emps>\r\n",
+     version + "<emps>\r\nminwage=6\r\n<employee>\r\nnum= 9\r\nNAME=Zed = Zimmer\r\nexp=2.5\r\n"
+               "Job= 3\r\nsomething=1\r\nfillingin=-1\r\ndaysworked=70000\r\nnoequals\r\n=5\r\n"
+               "</employee>\r\n</EMPS>\r\n<calendar>\r\ncurrentyear=2\r\n</calendar>\r\n",
      R"({"/employees/0/num": 1, "/employees/0/name": "Zed = Zimmer", "/employees/0/exp": 2,
          "/employees/0/job": 3, "/employees/0/fillingin": false, "/employees/0/daysworked": 70000,
-         "/positions/2/myEmployee": 1})"},
+         "/positions/2/myEmployee": 1, "/minWage": 6, "/calendar/currentyear": 2})"},
     {"EmployeeJobEightStops",
      version + "<emps>\r\n<employee>\r\njob=8\r\n</employee>\r\n</emps>\r\n" + after, stopped},
     {"WagesBelowTheMinimumAsTheyStand",
