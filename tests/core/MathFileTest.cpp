@@ -22,11 +22,16 @@ struct MathFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(MathFixture, KeysIgnoreCaseButNotBlanks) {
+TEST_F(MathFixture, KeysIgnoreCaseButNotBlanksAndEveryLineEndReads) {
     load("GameSpeed1=250\ngamespeed2 =99\n gamespeed3=77\n");
     EXPECT_EQ(game->math.gamespeed[1], 250);
     EXPECT_EQ(game->math.gamespeed[2], 0); // "gamespeed2 " is another key
     EXPECT_EQ(game->math.gamespeed[3], 0);
+    // Every kind of line end reads.
+    load("gamespeed1=1\r\ngamespeed2=2\rgamespeed3=3");
+    EXPECT_EQ(game->math.gamespeed[1], 1);
+    EXPECT_EQ(game->math.gamespeed[2], 2);
+    EXPECT_EQ(game->math.gamespeed[3], 3);
 }
 
 TEST_F(MathFixture, ValuesKeepCaseAndLeadingBlanksAndLoseTheComment) {
@@ -61,7 +66,7 @@ TEST_F(MathFixture, ACommentLineHoldingEqualsReappliesThePreviousEntry) {
 }
 
 // A matching or missing version asks nothing; another asks, word for word, and Yes reads on.
-TEST_F(MathFixture, VersionQuestionOnlyForAnotherVersionAndYesReadsOn) {
+TEST_F(MathFixture, VersionQuestionOnlyForAnotherVersionYesReadsOnNoEndsTheProcess) {
     load("mathver=2.0.1   \ngamespeed1=3\n");
     load("gamespeed1=4\n");
     EXPECT_TRUE(game.dialogs.asked.empty());
@@ -75,13 +80,11 @@ TEST_F(MathFixture, VersionQuestionOnlyForAnotherVersionAndYesReadsOn) {
                   "' was written for version '1.9.9' but this is version '2.0.1' proceed with "
                   "loading variables from this math file?");
     EXPECT_EQ(game->math.gamespeed[2], 2);
-}
-
-TEST_F(MathFixture, VersionRefusedEndsTheProcessWithEarlierEntriesInForce) {
+    // No ends the process with the earlier entries in force.
     game.dialogs.answers = {Answer::No};
-    EXPECT_THROW(load("gamespeed1=1\nmathver=3\ngamespeed2=2\n"), ProcessEnded);
-    EXPECT_EQ(game->math.gamespeed[1], 1);
-    EXPECT_EQ(game->math.gamespeed[2], 0);
+    EXPECT_THROW(load("gamespeed1=7\nmathver=3\ngamespeed2=5\n"), ProcessEnded);
+    EXPECT_EQ(game->math.gamespeed[1], 7);
+    EXPECT_EQ(game->math.gamespeed[2], 2);
 }
 
 TEST_F(MathFixture, FatalValuesNameTheFileLineAndKeyAndAMissingFileIsFatal) {
@@ -113,13 +116,6 @@ TEST_F(MathFixture, AnEmptyPathReadsTheStoredFileAgain) {
     EXPECT_EQ(empty, dir.file("math.txt"));
     EXPECT_EQ(game->math.gamespeed[1], 9);
     EXPECT_EQ(game->math.gamespeed[2], 2); // a key missing on reload keeps its value
-}
-
-TEST_F(MathFixture, EveryKindOfLineEndReads) {
-    load("gamespeed1=1\r\ngamespeed2=2\rgamespeed3=3");
-    EXPECT_EQ(game->math.gamespeed[1], 1);
-    EXPECT_EQ(game->math.gamespeed[2], 2);
-    EXPECT_EQ(game->math.gamespeed[3], 3);
 }
 
 TEST(MathKeys, EveryKeyIsThereOnceWithItsArrays) {
