@@ -77,7 +77,7 @@ TEST(TutorTexts, LiveValues) {
 }
 
 // "Play !" with the box ticked (an empty store) opens the advisor at step 1.
-TEST(Tutor, StartsAtPlayAndWalksEveryStep) {
+TEST(Tutor, StartsAtPlayWalksEveryStepAndClosesWithItsBox) {
     SoundGame g;
     Game& game = g.start();
     EXPECT_TRUE(game.tutor.visible);
@@ -107,36 +107,24 @@ TEST(Tutor, StartsAtPlayAndWalksEveryStep) {
     EXPECT_TRUE(game.tutor.visible);
     EXPECT_EQ(game.tutor.step, 1);
     EXPECT_EQ(g.stored("other", "tutor"), "1");
-}
 
-TEST(Tutor, CloseAsksOnlyWhileTheBoxIsTicked) {
-    SoundGame g;
-    Game& game = g.start();
-    game.tutor.endTutor(); // the close button
+    // The close button asks only while the box is ticked.
+    game.tutor.endTutor();
     EXPECT_FALSE(game.tutor.visible);
-    EXPECT_EQ(boxes(g.dialogs), 1);
+    EXPECT_EQ(boxes(g.dialogs), 2);
     EXPECT_EQ(g.stored("other", "tutor"), "0");
     game.tutor.endTutor();
-    EXPECT_EQ(boxes(g.dialogs), 1);
-
+    EXPECT_EQ(boxes(g.dialogs), 2);
     // Cleared in the settings: hidden with no box, and the store is not written.
     game.tutor.startTutor();
     game.settingsBoxes.setBox(SettingsBox::Tutor, 0);
     EXPECT_FALSE(game.tutor.visible);
-    EXPECT_EQ(boxes(g.dialogs), 1);
+    EXPECT_EQ(boxes(g.dialogs), 2);
     EXPECT_EQ(g.stored("other", "tutor"), "1");
     // Ticked in the settings: the advisor starts.
     game.settingsBoxes.setBox(SettingsBox::Tutor, 1);
     EXPECT_TRUE(game.tutor.visible);
     EXPECT_EQ(game.tutor.step, 1);
-}
-
-TEST(Tutor, StaysHiddenAtPlayWhenSwitchedOff) {
-    SoundGame g;
-    g.settings.set("other", "tutor", "0");
-    Game& game = g.start();
-    EXPECT_FALSE(game.tutor.visible);
-    EXPECT_EQ(game.tutor.step, 0);
 }
 
 // A step shown again after a day or a rent change shows the new week and rent.

@@ -22,11 +22,16 @@ struct MathFixture : ::testing::Test {
 
 } // namespace
 
-TEST_F(MathFixture, KeysIgnoreCaseButNotBlanks) {
+TEST_F(MathFixture, KeysIgnoreCaseButNotBlanksAndEveryLineEndReads) {
     load("GameSpeed1=250\ngamespeed2 =99\n gamespeed3=77\n");
     EXPECT_EQ(game->math.gamespeed[1], 250);
     EXPECT_EQ(game->math.gamespeed[2], 0); // "gamespeed2 " is another key
     EXPECT_EQ(game->math.gamespeed[3], 0);
+    // Every kind of line end reads.
+    load("gamespeed1=1\r\ngamespeed2=2\rgamespeed3=3");
+    EXPECT_EQ(game->math.gamespeed[1], 1);
+    EXPECT_EQ(game->math.gamespeed[2], 2);
+    EXPECT_EQ(game->math.gamespeed[3], 3);
 }
 
 TEST_F(MathFixture, ValuesKeepCaseAndLeadingBlanksAndLoseTheComment) {
@@ -60,7 +65,12 @@ TEST_F(MathFixture, ACommentLineHoldingEqualsReappliesThePreviousEntry) {
     EXPECT_EQ(game->math.gamespeed[1], 5);
 }
 
-TEST_F(MathFixture, VersionQuestionWordForWordAndYesReadsOn) {
+// A matching or missing version asks nothing; another asks, word for word, and Yes reads on.
+TEST_F(MathFixture, VersionQuestionOnlyForAnotherVersionYesReadsOnNoEndsTheProcess) {
+    load("mathver=2.0.1   \ngamespeed1=3\n");
+    load("gamespeed1=4\n");
+    EXPECT_TRUE(game.dialogs.asked.empty());
+    EXPECT_EQ(game->math.gamespeed[1], 4);
     game.dialogs.answers = {Answer::Yes};
     const std::string path = dir.file("math.txt");
     load("gamespeed1=1\nmathver=1.9.9  \ngamespeed2=2\n");
@@ -70,23 +80,14 @@ TEST_F(MathFixture, VersionQuestionWordForWordAndYesReadsOn) {
                   "' was written for version '1.9.9' but this is version '2.0.1' proceed with "
                   "loading variables from this math file?");
     EXPECT_EQ(game->math.gamespeed[2], 2);
-}
-
-TEST_F(MathFixture, VersionRefusedEndsTheProcessWithEarlierEntriesInForce) {
+    // No ends the process with the earlier entries in force.
     game.dialogs.answers = {Answer::No};
-    EXPECT_THROW(load("gamespeed1=1\nmathver=3\ngamespeed2=2\n"), ProcessEnded);
-    EXPECT_EQ(game->math.gamespeed[1], 1);
-    EXPECT_EQ(game->math.gamespeed[2], 0);
+    EXPECT_THROW(load("gamespeed1=7\nmathver=3\ngamespeed2=5\n"), ProcessEnded);
+    EXPECT_EQ(game->math.gamespeed[1], 7);
+    EXPECT_EQ(game->math.gamespeed[2], 2);
 }
 
-TEST_F(MathFixture, MatchingOrMissingVersionAsksNothing) {
-    load("mathver=2.0.1   \ngamespeed1=3\n");
-    load("gamespeed1=4\n");
-    EXPECT_TRUE(game.dialogs.asked.empty());
-    EXPECT_EQ(game->math.gamespeed[1], 4);
-}
-
-TEST_F(MathFixture, FatalValuesNameTheFileLineAndKey) {
+TEST_F(MathFixture, FatalValuesNameTheFileLineAndKeyAndAMissingFileIsFatal) {
     try {
         load("gamespeed1=1\n\ngamespeed2=40000\n");
         FAIL() << "no overflow";
@@ -103,11 +104,8 @@ TEST_F(MathFixture, FatalValuesNameTheFileLineAndKey) {
         EXPECT_EQ(e.kind(), GameError::Kind::Type);
         EXPECT_NE(std::string(e.what()).find("concess2buy"), std::string::npos);
     }
-}
-
-TEST_F(MathFixture, AMissingFileIsFatal) {
-    std::string path = dir.file("nothing.txt");
-    EXPECT_THROW(game->mathFile.loadMath(game->math, game->dialogs(), path), GameError);
+    std::string missing = dir.file("nothing.txt");
+    EXPECT_THROW(game->mathFile.loadMath(game->math, game->dialogs(), missing), GameError);
 }
 
 TEST_F(MathFixture, AnEmptyPathReadsTheStoredFileAgain) {
@@ -118,13 +116,6 @@ TEST_F(MathFixture, AnEmptyPathReadsTheStoredFileAgain) {
     EXPECT_EQ(empty, dir.file("math.txt"));
     EXPECT_EQ(game->math.gamespeed[1], 9);
     EXPECT_EQ(game->math.gamespeed[2], 2); // a key missing on reload keeps its value
-}
-
-TEST_F(MathFixture, EveryKindOfLineEndReads) {
-    load("gamespeed1=1\r\ngamespeed2=2\rgamespeed3=3");
-    EXPECT_EQ(game->math.gamespeed[1], 1);
-    EXPECT_EQ(game->math.gamespeed[2], 2);
-    EXPECT_EQ(game->math.gamespeed[3], 3);
 }
 
 TEST(MathKeys, EveryKeyIsThereOnceWithItsArrays) {

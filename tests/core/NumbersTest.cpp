@@ -1,28 +1,27 @@
 #include "core/Numbers.h"
 #include "core/GameError.h"
 #include "core/Random.h"
+#include "core/Text.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 using namespace zorvane;
 
-TEST(Numbers, StoringRoundsHalfToEven) {
-    EXPECT_EQ(toInt16(100.5), 100);
-    EXPECT_EQ(toInt16(101.5), 102);
-    EXPECT_EQ(toInt16(-0.5), 0);
-    EXPECT_EQ(toInt16(-1.5), -2);
-    EXPECT_EQ(toInt16(2.4999), 2);
+TEST(Numbers, StoringRoundsHalfToEvenAndChecksTheRangeAfterRounding) {
+    for (const auto& [value, stored] : {std::pair{100.5, 100},
+                                        {101.5, 102},
+                                        {-0.5, 0},
+                                        {-1.5, -2},
+                                        {2.4999, 2},
+                                        {32767.4, 32767},
+                                        {-32768.5, -32768}}) // ties to the even -32768
+        EXPECT_EQ(toInt16(value), stored) << value;
     EXPECT_EQ(toInt32(2147483646.5), 2147483646);
-}
-
-TEST(Numbers, SixteenBitRangeIsCheckedAfterRounding) {
-    EXPECT_EQ(toInt16(32767.4), 32767);
-    EXPECT_EQ(toInt16(-32768.5), -32768); // ties to the even -32768
-    EXPECT_THROW(toInt16(32767.5), GameError);
-    EXPECT_THROW(toInt16(-32769), GameError);
-    EXPECT_THROW(toInt16(std::nan("")), GameError);
+    for (const double value : {32767.5, -32769.0, std::nan("")})
+        EXPECT_THROW(toInt16(value), GameError) << value;
     EXPECT_THROW(toInt32(2147483647.5), GameError);
 }
 
@@ -34,17 +33,19 @@ TEST(Numbers, IntFloorsTowardMinusInfinity) {
 }
 
 TEST(Numbers, LeadingNumberOfAText) {
-    EXPECT_EQ(leadingNumber("1000 dollars"), 1000);
-    EXPECT_EQ(leadingNumber("$1000"), 0);
-    EXPECT_EQ(leadingNumber("   12.5abc"), 12.5);
-    EXPECT_EQ(leadingNumber("-3"), -3);
-    EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
-    EXPECT_EQ(leadingNumber(".5"), 0.5);
-    EXPECT_EQ(leadingNumber("1e3x"), 1000);
-    EXPECT_EQ(leadingNumber("1e"), 1);
-    EXPECT_EQ(leadingNumber(""), 0);
-    EXPECT_EQ(leadingNumber("-"), 0);
-    EXPECT_EQ(leadingNumber(" 7"), 7); // the form saved games write non-negative numbers in
+    // " 7" is the form saved games write non-negative numbers in.
+    for (const auto& [text, value] : {std::pair{"1000 dollars", 1000.0},
+                                      {"$1000", 0},
+                                      {"   12.5abc", 12.5},
+                                      {"-3", -3},
+                                      {"1.2.3", 1.2},
+                                      {".5", 0.5},
+                                      {"1e3x", 1000},
+                                      {"1e", 1},
+                                      {"", 0},
+                                      {"-", 0},
+                                      {" 7", 7}})
+        EXPECT_EQ(leadingNumber(text), value) << '"' << text << '"';
 }
 
 TEST(Numbers, StrictNumberWantsTheWholeText) {
@@ -71,9 +72,9 @@ TEST(Numbers, CheckedArithmeticTrapsOnOverflow) {
 }
 
 TEST(Numbers, SavedGameNumberForms) {
-    EXPECT_EQ(numberText(1500), "1500");
-    EXPECT_EQ(numberText(0.1), "0.1");
-    EXPECT_EQ(numberText(1.0 / 3), "0.333333333333333");
+    for (const auto& [value, text] :
+         {std::pair{1500.0, "1500"}, {0.1, "0.1"}, {1.0 / 3, "0.333333333333333"}})
+        EXPECT_EQ(numberText(value), text);
     EXPECT_EQ(numberTextSigned(5), " 5");
     EXPECT_EQ(numberTextSigned(-5), "-5");
     EXPECT_EQ(leadingNumber(numberTextSigned(2.25)), 2.25);
@@ -100,4 +101,48 @@ TEST(Random, ASeedGivesTheSameDrawsWithAnyCompiler) {
         EXPECT_EQ(a.next(), expected);
     EXPECT_EQ(a.draws(), 4u);
     EXPECT_EQ(Random(0).next(), 0x1.b558c1c3dad49p-1);
+}
+
+TEST(Text, TextFilters) {
+    EXPECT_EQ(stripQuotes("\"C:\\my games\\a.zvn\""), "C:\\my games\\a.zvn");
+    EXPECT_EQ(stripQuotes(""), "");
+    EXPECT_EQ(digitsOnly("-12"), "12");
+    EXPECT_EQ(digitsOnly("1.5E-3"), "1.53"); // an exponent loses its letter and sign
+    EXPECT_EQ(trimRight("abc  "), "abc");
+    EXPECT_EQ(trimRight("  abc\t"), "  abc\t");
+    EXPECT_EQ(trimRight("    "), "");
+}
+
+TEST(Text, DigitsValueReadsWhatAPlayerTyped) {
+    for (const auto& [text, value] :
+         {std::pair{"$1,234.50", 1234.5}, {"12abc3", 123}, {"1.2.3", 1.2}, {"", 0}, {"-40", 40}})
+        EXPECT_EQ(digitsValue(text), value) << '"' << text << '"';
+}
+
+TEST(Text, MoneyShowsCentsOnlyWhenNotWholeAndTheSummaryInThousands) {
+    // 0.1 + 0.2 to 15 digits is 0.3, not whole.
+    for (const auto& [value, text] : {std::pair{1500.0, "$1,500"},
+                                      {1500.5, "$1,500.50"},
+                                      {0, "$0"},
+                                      {1500.004, "$1,500.00"},
+                                      {-1500, "-$1,500"},
+                                      {-0.25, "-$0.25"},
+                                      {1234567.891, "$1,234,567.89"},
+                                      {999.995, "$1,000.00"},
+                                      {0.1 + 0.2, "$0.30"}})
+        EXPECT_EQ(formatMoney(value), text) << value;
+    for (const auto& [value, text] : {std::pair{999.99, "$999.99"},
+                                      {1000, "$1k"},
+                                      {2000, "$2k"},
+                                      {2500, "$2.5k"},
+                                      {2345, "$2.35k"},
+                                      {1234567, "$1,234.57k"},
+                                      {-5000, "-$5,000"}})
+        EXPECT_EQ(formatMoneyShort(value), text) << value;
+}
+
+TEST(Text, GetPercentIsNotThePositionInTheRange) {
+    EXPECT_EQ(getPercent(10, 20, 15), 150);
+    EXPECT_EQ(getPercent(0, 100, 30), 30);
+    EXPECT_THROW(getPercent(5, 5, 1), GameError);
 }

@@ -1,8 +1,6 @@
 // goals.cfg: how the file is read, and what the shipped file offers.
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "goals/GoalTexts.h"
-#include "persistence/SavedFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
@@ -29,7 +27,7 @@ struct GoalFile : ::testing::Test {
 
 } // namespace
 
-TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
+TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsBetweenTheirTagsInFileOrder) {
     goalManager& g = load("# a comment\r\n<goal>\r\nname=First\r\n</goal>\r\nname=Outside\r\n"
                           "<GOAL>\r\nname=Second\r\n</goal>\r\n<Goal>\r\n</goal>\r\n");
     EXPECT_EQ(g.getLastGoal(), 3);
@@ -42,9 +40,17 @@ TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsInFileOrder) {
     EXPECT_EQ(free.getDesc(), "Play without any goals");
     EXPECT_EQ(g.getSelected(), 0);
     EXPECT_THROW(g.getGoal(4), GameError);
+
+    // Any line beginning with "</" closes a goal, the end of the file closes the last one,
+    // and an opening line must be exactly the tag.
+    EXPECT_EQ(goalList(load("<goal>\nname=A\n</whatever>\ntype=funds\n<goal>\nname=B\n")),
+              (std::vector<std::string>{"Free Play", "A", "B"}));
+    EXPECT_EQ((*session)->goals.getGoal(1).getType(), ""); // the type line stood outside
+    EXPECT_EQ(goalList(load("<goal> \n name=x\n<goal>x\n <goal>\n")),
+              std::vector<std::string>{"Free Play"});
 }
 
-TEST_F(GoalFile, KeysAndValuesAreReadAsWritten) {
+TEST_F(GoalFile, KeysAndValuesAreReadAsWrittenAbsentOnesStayEmpty) {
     goalManager& g = load("<goal>\n"
                           "NAME=Big = Money\n"
                           "Type=FUNDS\n"
@@ -59,7 +65,8 @@ TEST_F(GoalFile, KeysAndValuesAreReadAsWritten) {
                           "=ignored\n"
                           "no equals sign\n"
                           " name=not a key\n"
-                          "</goal>\n");
+                          "</goal>\n"
+                          "<goal>\nname=Sloppy\ntype=rating\nvalue=lots\ndeadline=soon\n</goal>\n");
     const goal& big = g.getGoal(1);
     EXPECT_EQ(big.getName(), "Big = Money"); // split at the first "="
     EXPECT_EQ(big.getType(), "funds");
@@ -71,40 +78,20 @@ TEST_F(GoalFile, KeysAndValuesAreReadAsWritten) {
     EXPECT_EQ(big.getCs(), "45.5");   // the leading number printed back
     EXPECT_EQ(big.getPayplan(), "0"); // an empty value reads as 0
     EXPECT_FALSE(big.getAchieved());
+    // Absent keys stay empty, bad numbers read as 0: a mistyped deadline fails in the second
+    // year.
+    const goal& sloppy = g.getGoal(2);
+    EXPECT_EQ(sloppy.getValue(), 0);
+    EXPECT_EQ(sloppy.getDeadline(), 0);
+    for (const std::string& figure :
+         {sloppy.getCs(), sloppy.getPayplan(), sloppy.getDebt(), sloppy.getFunds()})
+        EXPECT_EQ(figure, "");
 }
 
-TEST_F(GoalFile, AbsentKeysStayEmptyAndBadNumbersReadAsZero) {
-    goalManager& g = load("<goal>\nname=Sloppy\ntype=rating\nvalue=lots\ndeadline=soon\n</goal>\n");
-    const goal& s = g.getGoal(1);
-    EXPECT_EQ(s.getValue(), 0);
-    EXPECT_EQ(s.getDeadline(), 0); // a mistyped deadline fails in the second year
-    EXPECT_EQ(s.getCs(), "");
-    EXPECT_EQ(s.getPayplan(), "");
-    EXPECT_EQ(s.getDebt(), "");
-    EXPECT_EQ(s.getFunds(), "");
-}
-
-TEST_F(GoalFile, AnyLineBeginningWithSlashClosesAGoal) {
-    goalManager& g = load("<goal>\nname=A\n</whatever>\ntype=funds\n<goal>\nname=B\n");
-    EXPECT_EQ(g.getLastGoal(), 2);
-    EXPECT_EQ(g.getGoal(1).getType(), "");  // the type line stood outside the goal
-    EXPECT_EQ(g.getGoal(2).getName(), "B"); // the end of the file closes the last one
-}
-
-TEST_F(GoalFile, AnOpeningLineMustBeExactlyTheTag) {
-    goalManager& g = load("<goal> \n name=x\n<goal>x\n <goal>\n");
-    EXPECT_EQ(g.getLastGoal(), 0);
-    EXPECT_EQ(goalList(g), std::vector<std::string>{"Free Play"});
-}
-
-TEST_F(GoalFile, AMissingFileIsFatal) {
+TEST_F(GoalFile, AMissingFileOrADeadlineBeyondSixteenBitsIsFatal) {
     TestGame game(dir.path().string());
     EXPECT_THROW(game->goals.loadGoals(), GameError);
-}
-
-TEST_F(GoalFile, ADeadlineBeyondSixteenBitsIsFatal) {
     dir.write("goals.cfg", "<goal>\ndeadline=40000\n</goal>\n");
-    TestGame game(dir.path().string());
     try {
         game->goals.loadGoals();
         FAIL() << "no error";
@@ -113,16 +100,12 @@ TEST_F(GoalFile, ADeadlineBeyondSixteenBitsIsFatal) {
     }
 }
 
-TEST_F(GoalFile, TheStartingFigureRule) {
-    EXPECT_TRUE(goal::isGiven("0"));
-    EXPECT_TRUE(goal::isGiven("15000"));
-    EXPECT_TRUE(goal::isGiven(" 0.5"));
-    EXPECT_FALSE(goal::isGiven(""));
-    EXPECT_FALSE(goal::isGiven("0.0"));
-    EXPECT_FALSE(goal::isGiven("00"));
-    EXPECT_FALSE(goal::isGiven(" 0"));
-    EXPECT_FALSE(goal::isGiven("-500"));
-    EXPECT_FALSE(goal::isGiven("$500")); // the leading number of "$500" is 0
+// A starting figure counts as given only when its text is "0" or its leading number is above 0.
+TEST(StartingFigure, IsGivenAsZeroOrAPositiveNumber) {
+    for (const char* given : {"0", "15000", " 0.5"})
+        EXPECT_TRUE(goal::isGiven(given)) << '"' << given << '"';
+    for (const char* absent : {"", "0.0", "00", " 0", "-500", "$500"})
+        EXPECT_FALSE(goal::isGiven(absent)) << '"' << absent << '"';
 }
 
 TEST_F(GoalFile, TheDetailsBoxText) {

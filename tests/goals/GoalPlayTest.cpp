@@ -1,16 +1,13 @@
 // A goal in play: its starting figures, its daily test, its deadline, the won flow and the
 // Goal menu.
-#include "Simulator.h"
-#include "StateJson.h"
 #include "core/GameError.h"
-#include "persistence/SavedFile.h"
 #include "session/Game.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -29,7 +26,8 @@ struct GoalPlay : ::testing::Test {
     DataFolder data;
     std::unique_ptr<TestGame> session;
 
-    void SetUp() override {
+    void SetUp() override { restart(); }
+    void restart() {
         session = std::make_unique<TestGame>(data.path().string(), 3);
         game().startup();
     }
@@ -64,21 +62,9 @@ std::string num(double v) {
 
 } // namespace
 
-TEST_F(GoalPlay, FreePlayIsNeverTestedAndNeverFails) {
-    play(0);
-    setYear(30);
-    test();
-    EXPECT_EQ(count(failedLine), 0);
-    EXPECT_EQ(count(achievedLine), 0);
-    EXPECT_EQ(goals().getSelected(), 0);
-}
-
-TEST_F(GoalPlay, AFundsGoalIsReachedTheFirstDayFundsStandAtTheTarget) {
+TEST_F(GoalPlay, AReachedGoalIsShownAndPlayGoesOnWithoutIt) {
     useGoals(goalBlock("name=Grand\r\ntype=funds\r\nvalue=1000\r\ndeadline=1\r\n"));
     play();
-    game().finances.setFunds(999.99);
-    test();
-    EXPECT_FALSE(goals().selected().getAchieved());
     game().finances.setFunds(1000);
     test(Answer::Yes);
     EXPECT_TRUE(goals().selected().getAchieved());
@@ -154,15 +140,22 @@ TEST_F(GoalPlay, ADebtGoalOfZeroIsReachedAtOnceWithoutDebt) {
     EXPECT_TRUE(goals().selected().getAchieved());
 }
 
-TEST_F(GoalPlay, AnUnknownTypeIsNeverMetAndRunsOutOfTime) {
-    useGoals(goalBlock("type=profit\r\nvalue=-1000000\r\ndeadline=0\r\n"));
-    play();
+// An unknown type is never met; past the deadline a goal fails before its target is tested.
+TEST_F(GoalPlay, PastTheDeadlineAGoalFailsUnmet) {
+    useGoals(goalBlock("type=profit\r\nvalue=-1000000\r\ndeadline=0\r\n") +
+             goalBlock("type=funds\r\nvalue=0\r\ndeadline=0\r\n"));
+    play(1);
     test();
     EXPECT_FALSE(goals().selected().getAchieved());
     setYear(1);
-    test();
-    EXPECT_EQ(count(failedLine), 1);
-    EXPECT_EQ(goals().getSelected(), 0);
+    for (int g = 1; g <= 2; ++g) {
+        play(g);
+        test();
+        EXPECT_EQ(count(failedLine), g);
+        EXPECT_FALSE(goals().getGoal(g).getAchieved());
+        EXPECT_EQ(goals().getSelected(), 0);
+    }
+    EXPECT_EQ(count(achievedLine), 0);
 }
 
 TEST_F(GoalPlay, ADeadlineFailsTheGoalIntoFreePlay) {
@@ -176,22 +169,14 @@ TEST_F(GoalPlay, ADeadlineFailsTheGoalIntoFreePlay) {
     EXPECT_EQ(count(failedLine), 1);
     EXPECT_EQ(goals().getSelected(), 0);
     EXPECT_EQ(game().loseShown, 0); // failing a goal is no loss
+    setYear(30);
     test();
-    EXPECT_EQ(count(failedLine), 1); // free play from now on
+    EXPECT_EQ(count(failedLine), 1); // free play from now on, never tested
+    EXPECT_EQ(count(achievedLine), 0);
     // It can be picked again through the Goal menu, and fails again at the next test.
     goals().selectGoal(1);
     test();
     EXPECT_EQ(count(failedLine), 2);
-}
-
-TEST_F(GoalPlay, TheDeadlineComesBeforeTheTarget) {
-    useGoals(goalBlock("type=funds\r\nvalue=0\r\ndeadline=0\r\n"));
-    play();
-    setYear(1);
-    test();
-    EXPECT_EQ(count(failedLine), 1);
-    EXPECT_EQ(count(achievedLine), 0);
-    EXPECT_FALSE(goals().getGoal(1).getAchieved());
 }
 
 TEST_F(GoalPlay, TheFirstDayOfTheNextYearFailsTheGoal) {
@@ -239,44 +224,40 @@ TEST_F(GoalPlay, StartingFundsOnlyWhenReallyGiven) {
     }
 }
 
+// Debt, score and payments together start a loan (an empty key counts as given, but a score
+// of 0 is not applied). The debt is offered before the goal's score stands, so the opening
+// score's maximum cuts it.
 TEST_F(GoalPlay, DebtScoreAndPaymentsTogetherStartTheLoan) {
-    const double funds = game().finances.getFunds();
-    useGoals(goalBlock("debt=20000\r\ncs=42\r\npayplan=24\r\n"));
-    play();
-    loanManager& loans = game().loans;
-    EXPECT_EQ(loans.getCreditScore(), 42);
-    EXPECT_EQ(loans.getBalance(), 20000);
-    EXPECT_EQ(loans.loanAmount, 20000);
-    EXPECT_EQ(loans.payPlan, 24);
-    EXPECT_EQ(game().finances.getFunds(), funds + 20000);
-    EXPECT_EQ(count("Congrats, you're now in debt!"), 1);
-}
-
-TEST_F(GoalPlay, AScoreAloneStartsNoLoan) {
-    useGoals(goalBlock("cs=77\r\n") + goalBlock("debt=5000\r\npayplan=12\r\n"));
-    play(1);
-    EXPECT_EQ(game().loans.getCreditScore(), 77);
-    EXPECT_EQ(game().loans.getBalance(), 0);
-    play(2); // no score key: no loan either, though the offer is filled in
-    EXPECT_EQ(game().loans.getBalance(), 0);
+    const double score = game().loans.getCreditScore(), funds = game().finances.getFunds();
+    const double openingMax = score * game().math.loanmlv;
+    ASSERT_GT(openingMax, 20000);
+    struct Case {
+        std::string lines;
+        double score, balance;
+        int payPlan;
+    };
+    const Case cases[] = {
+        {"debt=20000\r\ncs=42\r\npayplan=24\r\n", 42, 20000, 24},
+        {"cs=77\r\n", 77, 0, 0},
+        {"debt=8000\r\ncs=\r\npayplan=12\r\n", score, 8000, 12},
+        {"debt=" + num(openingMax * 2) + "\r\ncs=100\r\npayplan=18\r\n", 100, openingMax, 18},
+        {"debt=5000\r\npayplan=12\r\n", score, 0, 0}, // the offer is still filled in
+    };
+    for (const Case& c : cases) {
+        restart();
+        useGoals(goalBlock(c.lines));
+        play();
+        loanManager& loans = game().loans;
+        EXPECT_EQ(loans.getCreditScore(), c.score) << c.lines;
+        EXPECT_EQ(loans.getBalance(), c.balance) << c.lines;
+        EXPECT_EQ(game().finances.getFunds(), funds + c.balance) << c.lines;
+        EXPECT_EQ(count("Congrats, you're now in debt!"), c.balance > 0 ? 1 : 0) << c.lines;
+        if (c.balance > 0) {
+            EXPECT_EQ(loans.loanAmount, c.balance) << c.lines;
+            EXPECT_EQ(loans.payPlan, c.payPlan) << c.lines;
+        }
+    }
     EXPECT_EQ(game().loans.offerAmount, 5000);
-}
-
-TEST_F(GoalPlay, AnEmptyScoreOrPaymentsKeyStillCountsAsGiven) {
-    useGoals(goalBlock("debt=8000\r\ncs=\r\npayplan=12\r\n"));
-    const double score = game().loans.getCreditScore();
-    play();
-    EXPECT_EQ(game().loans.getCreditScore(), score); // a score of 0 is not applied
-    EXPECT_EQ(game().loans.getBalance(), 8000);
-}
-
-TEST_F(GoalPlay, TheDebtIsCutByTheScoreThatStandsWhenItIsOffered) {
-    // The amount goes to the bank before the goal's score: the opening score's maximum cuts it.
-    const double openingMax = game().loans.getCreditScore() * game().math.loanmlv;
-    ASSERT_GT(openingMax, 0);
-    useGoals(goalBlock("debt=" + num(openingMax * 2) + "\r\ncs=100\r\npayplan=12\r\n"));
-    play();
-    EXPECT_EQ(game().loans.getBalance(), openingMax);
 }
 
 TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
@@ -299,13 +280,9 @@ TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
     goals().startGoal(1); // the list index counts, not the selection
     EXPECT_EQ(game().finances.getFunds(), 11111);
     EXPECT_EQ(goals().getSelected(), 2);
-}
-
-TEST_F(GoalPlay, PlayWithNoLineSelectedKeepsTheGoalInForce) {
-    useGoals(goalBlock("name=One\r\nfunds=11111\r\n"));
     game().finances.setFunds(5);
-    game().startPlay(-1);
-    EXPECT_EQ(goals().getSelected(), 0);
+    game().startPlay(-1); // "Play !" with no line picked keeps the goal in force
+    EXPECT_EQ(goals().getSelected(), 2);
     EXPECT_EQ(game().finances.getFunds(), 5);
 }
 
@@ -321,66 +298,33 @@ TEST_F(GoalPlay, TheGoalMenuShowsTheTitleThenTheDetails) {
     EXPECT_EQ(dialogs().buttons.back(), Buttons::Ok);
 }
 
-namespace {
-
-struct GoalMenuScript : ::testing::Test {
-    DataFolder data;
-    std::ostringstream out;
-    std::unique_ptr<sim::Simulator> sim;
-
-    void start(int goal) {
+struct GoalMenuScript : SimScenario {
+    void SetUp() override {
         data.write("goals.cfg",
                    goalBlock("name=Shoestring\r\ntype=funds\r\nvalue=75000\r\ndeadline=2\r\n"
                              "funds=15000\r\n") +
                        goalBlock("name=Rent free\r\ntype=purchase\r\nvalue=0\r\ndeadline=4\r\n"));
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 11;
-        options.goal = goal;
-        options.quiet = true;
-        sim = std::make_unique<sim::Simulator>(options, out);
-        sim->startup();
+        start(11, 1);
     }
-    void run(const std::string& line) { sim->runLine(line, 1); }
-    nlohmann::json state() { return sim::gameState(sim->game()); }
 };
 
-} // namespace
-
-TEST_F(GoalMenuScript, PlayAgainReappliesTheStartingFunds) {
-    start(1);
+// The Goal menu picks a goal while the game runs, plays it again with its starting funds and
+// shows it; the state counts a reached goal.
+TEST_F(GoalMenuScript, PicksPlaysAgainAndCountsAReachedGoal) {
     EXPECT_EQ(state()["funds"], 15000);
-    sim->game().finances.spend(5000, "labor");
-    run("day 2");
-    ASSERT_NE(state()["funds"], 15000);
-    run("goal 1");
-    EXPECT_EQ(state()["funds"], 15000);
-    EXPECT_EQ(sim->dialogs().asked.back().rfind("Goal name: Shoestring\r\n", 0), 0u);
-    const auto goal = state()["goal"];
-    EXPECT_EQ(goal["selected"], 1);
-    EXPECT_EQ(goal["type"], "funds");
-    EXPECT_EQ(goal["value"], 75000);
-    EXPECT_EQ(goal["deadline"], 2);
-    EXPECT_EQ(goal["achieved"], false);
-    EXPECT_EQ(state()["goalShown"], 0);
-}
-
-TEST_F(GoalMenuScript, AnotherGoalCanBePickedWhileTheGameRuns) {
-    start(0);
-    const double funds = state()["funds"];
+    game().finances.spend(5000, "labor");
     run("goal 2"); // no starting funds: the money stays
-    EXPECT_EQ(state()["funds"], funds);
-    EXPECT_EQ(state()["goal"]["selected"], 2);
-    EXPECT_EQ(state()["goal"]["type"], "purchase");
+    expectChecks({}, state(),
+                 R"({"/funds": 10000, "/goal/selected": 2, "/goal/type": "purchase"})");
     EXPECT_THROW(run("goal 3"), sim::ScriptError);
     EXPECT_THROW(run("goal -1"), sim::ScriptError);
-}
-
-TEST_F(GoalMenuScript, AReachedGoalIsCountedInTheState) {
-    start(1);
-    sim->dialogs().answers = {Answer::Yes};
-    sim->game().finances.setFunds(90000);
+    run("day 2");
+    run("goal 1");
+    EXPECT_EQ(simulator->dialogs().asked.back().rfind("Goal name: Shoestring\r\n", 0), 0u);
+    expectChecks({}, state(), R"({"/funds": 15000, "/goalShown": 0, "/goal": {"selected": 1,
+        "type": "funds", "value": 75000, "deadline": 2, "achieved": false}})");
+    simulator->dialogs().answers = {Answer::Yes};
+    game().finances.setFunds(90000);
     run("day");
-    EXPECT_EQ(state()["goal"]["achieved"], true);
-    EXPECT_EQ(state()["goalShown"], 1);
+    expectChecks({}, state(), R"({"/goal/achieved": true, "/goalShown": 1})");
 }

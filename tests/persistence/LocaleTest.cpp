@@ -4,6 +4,7 @@
 #include "Simulator.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -39,15 +40,7 @@ Written playUnder(locale_t locale) {
                  formatGrouped(1234567.891, 1)};
     DataFolder data;
     std::ostringstream out;
-    auto session = [&](std::uint64_t seed) {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = seed;
-        options.quiet = true;
-        auto s = std::make_unique<sim::Simulator>(options, out);
-        s->startup();
-        return s;
-    };
+    auto session = [&](std::uint64_t seed) { return startSimulator(data, seed, out); };
     const auto played = session(7);
     for (const char* line :
          {"hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1", "hire 1",

@@ -4,6 +4,8 @@
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <memory>
 #include <sstream>
@@ -80,6 +82,18 @@ inline std::string travellingPart(const std::string& text) {
         out += line + "\r\n";
     }
     return out;
+}
+
+// Expects two saved games to agree section by section, but for the sections tagged `skip`.
+inline void expectSameSections(const std::string& expected, const std::string& actual,
+                               const std::string& when, const std::string& skip = "") {
+    const auto a = splitSections(expected), b = splitSections(actual);
+    ASSERT_EQ(a.size(), b.size()) << when;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i].tag != skip) {
+            EXPECT_EQ(a[i].lines, b[i].lines) << when << ": section " << a[i].tag;
+        }
+    }
 }
 
 inline std::string joinLines(const std::vector<std::string>& lines) {

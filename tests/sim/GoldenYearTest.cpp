@@ -7,6 +7,7 @@
 // look at the difference before committing it:
 //     ZORVANE_WRITE_GOLDEN=1 build/release/bin/test_sim --gtest_filter='GoldenYear.*'
 #include "Simulator.h"
+#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -37,16 +38,7 @@ struct Session {
     DataFolder data;
     std::ostringstream out;
     std::unique_ptr<sim::Simulator> sim;
-    Session() {
-        sim::SimOptions options;
-        options.dataDir = data.path().string();
-        options.seed = 2026;
-        options.goal = 5;
-        options.quiet = true;
-        sim = std::make_unique<sim::Simulator>(options, out);
-        sim->startup();
-        play(opening);
-    }
+    Session() : sim(startSimulator(data, 2026, out, 5)) { play(opening); }
     void play(const std::vector<std::string>& lines) {
         for (const std::string& line : lines)
             sim->runLine(line, 0);

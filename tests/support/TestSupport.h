@@ -51,7 +51,7 @@ class RecordingScreen : public NullScreen {
     std::vector<View> refreshed;
     std::vector<int> modes;
     std::vector<std::string> details; // the title screen's status box, replaced
-    int loseShown = 0, logClears = 0, goalPictures = 0, titleShown = 0;
+    int loseShown = 0, goalPictures = 0, titleShown = 0;
     bool visible = false; // the building screen
 
     void logLine(const std::string& line, bool cleared) override {
@@ -59,10 +59,7 @@ class RecordingScreen : public NullScreen {
             lines.clear();
         lines.push_back(line);
     }
-    void logCleared() override {
-        ++logClears;
-        lines.clear();
-    }
+    void logCleared() override { lines.clear(); }
     void titleStatus(const std::string& line) override { status.push_back(line); }
     void refresh(View v) override { refreshed.push_back(v); }
     void showLose(LoseReason) override { ++loseShown; }
