@@ -121,6 +121,14 @@ TEST_F(BuildingFixture, BreakdownRollAgainstWearTimesChance) {
     EXPECT_EQ(b().repairCost, 105 * 60);
     EXPECT_EQ(b().renovateCost, 105 * 800.0);
     EXPECT_EQ(buildingTexts(b(), game->calendar.currentyear).values[1], "5 %"); // digits only
+    // At the month's turn the house breaks down before the rent is asked for.
+    money().setFunds(0);
+    game->rng.force(0.0);
+    b().buildingNextMonth();
+    ASSERT_GE(screen.lines.size(), 2u);
+    EXPECT_EQ(screen.lines[screen.lines.size() - 2], " !!!  YOUR THEATER HAS BROKE DOWN !!! ");
+    EXPECT_EQ(screen.lines.back(), "You have not paid your rent this month, if you go 3 "
+                                   "month(s) without paying rent you will lose this game!");
     game->math.buildingrepaircost = Int16{400};
     b().condition = 10; // 90 * 400 passes 32767
     EXPECT_THROW(b().computeCosts(), GameError);
