@@ -21,12 +21,16 @@ double roll(int r) {
 TEST_F(EmployeeTest, QuitsWhenTheDaysAngerLessTheCalmDownReachesTheQuitPoint) {
     g.math.empprobation = 0;
     g.math.empangrycalmdown = 1;
-    g.math.empangrynowork = 2;
+    g.math.empangrynowork = 1;
     g.math.empoverqualifiedquitchance = 0;
     // Idle, never worked: impatient. Exp 1 and job 0 with limit 1: no learning draws.
     setStaff({{"Ann Able", 1, 5, 0, 10, 99}, {"Bob Brown", 2, 5, 2}});
-    g.rng.force({roll(1), roll(100)}); // no-work roll passes, over-qualified roll fails
-    emp(1).nextDay();
+    g.rng.force({roll(1), roll(100), roll(1), roll(100)}); // no-work passes, over-qualified not
+    emp(1).nextDay();                                      // 99 + 1 - 1: one below the quit point
+    EXPECT_EQ(emp(1).anger, 99);
+    EXPECT_EQ(emp(1).angerreason, "Need more work");
+    g.math.empangrynowork = 2;
+    emp(1).nextDay(); // 99 + 2 - 1
     EXPECT_EQ(g.rng.forcedLeft(), 0u);
     EXPECT_EQ(logged("Ann Able  quit saying 'I'm fed up with this job!!'"), 1);
     ASSERT_EQ(staff.employeeCount(), 1);
@@ -35,30 +39,29 @@ TEST_F(EmployeeTest, QuitsWhenTheDaysAngerLessTheCalmDownReachesTheQuitPoint) {
     EXPECT_EQ(holder(2), 1); // the renumbered person wrote the new number into the post
 }
 
-TEST_F(EmployeeTest, OnePointOfAngerADayBelowTheCalmDownDoesNotQuit) {
-    g.math.empprobation = 0;
-    g.math.empangrycalmdown = 1;
-    g.math.empangrynowork = 1;
-    g.math.empoverqualifiedquitchance = 0;
-    setStaff({{"Ann Able", 1, 5, 0, 10, 99}});
-    g.rng.force({roll(1), roll(100)});
-    emp(1).nextDay();
-    EXPECT_EQ(staff.employeeCount(), 1);
-    EXPECT_EQ(emp(1).anger, 99);
-    EXPECT_EQ(emp(1).angerreason, "Need more work");
-}
-
-TEST_F(EmployeeTest, ABouncedPaycheckCountsOnlyOnTheNextDay) {
-    setStaff({{"Ann Able", 1, 5, 1, 10, 90}});
-    g.finances.funds = 50;
+TEST_F(EmployeeTest, PayGoesUnderLaborAndABouncedPaycheckCountsOnlyOnTheNextDay) {
+    setStaff({{"Ann Able", 1, 5, 1, 10, 90}, {"Bob Brown", 2, 5, 2, 10, 32760}});
+    g.finances.funds = 150;
+    emp(1).PayMe(88);
+    emp(1).PayMe(50);
+    EXPECT_EQ(emp(1).paid, 138);
+    EXPECT_EQ(g.finances.deplabor, 138);
+    EXPECT_EQ(g.finances.funds, 12);
     emp(1).PayMe(100);
     EXPECT_EQ(emp(1).anger, 115);
     EXPECT_EQ(emp(1).angerreason, "Paycheck bounced");
-    EXPECT_EQ(emp(1).daysworked, 1); // counted before the money was tried
-    EXPECT_EQ(emp(1).paid, 0);
-    EXPECT_EQ(staff.employeeCount(), 1); // no quitting test in PayMe
-    emp(1).nextDay();                    // probation: no rolls; calm-down 2 leaves 113
-    EXPECT_EQ(staff.employeeCount(), 0);
+    EXPECT_EQ(emp(1).daysworked, 3); // counted before the money was tried
+    EXPECT_EQ(emp(1).paid, 138);
+    EXPECT_EQ(staff.employeeCount(), 2); // no quitting test in PayMe
+    try {
+        emp(2).PayMe(100);
+        FAIL() << "anger passed 32767";
+    } catch (const GameError& err) {
+        EXPECT_EQ(err.kind(), GameError::Kind::Overflow);
+    }
+    emp(1).nextDay(); // probation: no rolls; calm-down 2 leaves 113
+    EXPECT_EQ(staff.employeeCount(), 1);
+    EXPECT_EQ(emp(1).name, "Bob Brown");
 }
 
 TEST_F(EmployeeTest, AFallBelowZeroMakesContentButAFallToExactlyZeroKeepsTheReason) {
@@ -99,13 +102,6 @@ TEST_F(EmployeeTest, WorkRatioAndPatienceDecideTheNoWorkRoll) {
     emp(1).nextDay();
     EXPECT_EQ(g.rng.forcedLeft(), 0u);
     EXPECT_EQ(emp(1).anger, 0);
-}
-
-TEST_F(EmployeeTest, AFillInJobLastsOneDay) {
-    setStaff({{"Ann Able", 2, 5, 2, 10, 0, 0, 0, true}});
-    emp(1).nextDay();
-    EXPECT_EQ(emp(1).job, 0);
-    EXPECT_FALSE(emp(1).fillingin);
 }
 
 // ---------------------------------------------------------------- learning
@@ -168,15 +164,6 @@ TEST_F(EmployeeTest, AttendanceRoundsHalfToEven) {
     EXPECT_EQ(logged("Bob Brown has called in sick today."), 0); // slot 3: once a day
 }
 
-TEST_F(EmployeeTest, PayGoesUnderLabor) {
-    setStaff({{"Ann Able", 1, 5, 1}});
-    g.finances.funds = 1000;
-    emp(1).PayMe(88);
-    EXPECT_EQ(emp(1).paid, 88);
-    EXPECT_EQ(g.finances.deplabor, 88);
-    EXPECT_EQ(g.finances.funds, 912);
-}
-
 TEST_F(EmployeeTest, TrainingCostIsFixedWhenFirstAskedFor) {
     setStaff({{"Ann Able", 3}, {"Bob Brown", 9}});
     EXPECT_EQ(emp(1).trainingcost, 0);
@@ -207,53 +194,27 @@ TEST_F(EmployeeTest, TextFormsPutTheNumberFirst) {
 TEST_F(EmployeeTest, FaceLayersFollowSkinGlassesAndHair) {
     setStaff({{"Ann Able"}});
     employee& e = emp(1);
-    e.myPicSkin = 2;
-    e.myPicGlasses = 3;
-    e.myPicHair = 3;
-    const auto path = [&](const std::string& f) { return g.dataPath("images/face_elements/" + f); };
-    FaceLayers f = e.drawPicture();
-    EXPECT_EQ(f.files[FaceLayers::Backhair], path("backhair.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Torso], path("torsoM.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Head], path("headM.gif"));
-    EXPECT_EQ(f.files[FaceLayers::EyeSockets], path("eyesocketsM.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Eyes], path("eyes.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Nose], path("noseM.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Mouth], path("mouthM.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Glasses], "");
-    EXPECT_EQ(f.files[FaceLayers::Hair], path("hair3.gif"));
-    e.myPicSkin = 3;
-    e.myPicGlasses = 1;
-    e.myPicHair = 5;
-    f = e.drawPicture();
-    EXPECT_EQ(f.files[FaceLayers::Backhair], "");
-    EXPECT_EQ(f.files[FaceLayers::Torso], path("torsoD.gif"));
-    EXPECT_EQ(f.files[FaceLayers::Glasses], path("glasses1.gif"));
-}
-
-TEST_F(EmployeeTest, APersonWithoutAFaceGetsOneWhenDrawnAndKeepsIt) {
-    setStaff({{"Ann Able"}});
-    employee& e = emp(1);
-    e.myPicHair = 0;
+    const auto face = [&](int skin, int glasses, int hair) {
+        e.myPicSkin = skin;
+        e.myPicGlasses = glasses;
+        e.myPicHair = hair;
+        return e.drawPicture().files;
+    };
+    // Back hair, torso, head, eye sockets, eyes, nose, mouth, glasses, hair; "" is no layer.
+    const auto files = [&](std::array<std::string, FaceLayers::count> names) {
+        for (std::string& n : names)
+            n = n.empty() ? n : g.dataPath("images/face_elements/" + n);
+        return names;
+    };
+    EXPECT_EQ(face(2, 3, 3), files({"backhair.gif", "torsoM.gif", "headM.gif", "eyesocketsM.gif",
+                                    "eyes.gif", "noseM.gif", "mouthM.gif", "", "hair3.gif"}));
+    EXPECT_EQ(face(3, 1, 5), files({"", "torsoD.gif", "headD.gif", "eyesocketsD.gif", "eyes.gif",
+                                    "noseD.gif", "mouthD.gif", "glasses1.gif", "hair5.gif"}));
+    // A person without a face (an old saved game) gets one when drawn, and keeps it.
     g.rng.force({0.0, 0.5, 0.99}); // skin 1, glasses 2, hair 6
-    e.drawPicture();
-    EXPECT_EQ(e.myPicSkin, 1);
-    EXPECT_EQ(e.myPicGlasses, 2);
-    EXPECT_EQ(e.myPicHair, 6);
+    EXPECT_EQ(face(2, 3, 0), files({"", "torsoL.gif", "headL.gif", "eyesocketsL.gif", "eyes.gif",
+                                    "noseL.gif", "mouthL.gif", "glasses2.gif", "hair6.gif"}));
     const auto before = g.rng.draws();
     e.drawPicture();
     EXPECT_EQ(g.rng.draws(), before);
-}
-
-// ---------------------------------------------------------------- the saved block
-
-TEST_F(EmployeeTest, AngerPastSixteenBitsIsAnOverflow) {
-    setStaff({{"Ann Able", 1, 5, 1, 10, 32760}});
-    g.math.empangrynopay = 25;
-    g.finances.funds = 0;
-    try {
-        emp(1).PayMe(10);
-        FAIL() << "anger passed 32767";
-    } catch (const GameError& err) {
-        EXPECT_EQ(err.kind(), GameError::Kind::Overflow);
-    }
 }
