@@ -12,6 +12,9 @@
 
 namespace zorvane::test {
 
+using Ints = std::vector<int>;
+using Names = std::vector<std::string>;
+
 // The staff's math, as each test knows it. Probation is long: no learning or anger unless a
 // test says so.
 inline const char* const staffMath =
@@ -89,6 +92,25 @@ class StaffTest : public ::testing::Test {
 
     employee& emp(int n) { return staff.getEmployee(n); }
     int holder(int p) { return staff.getPosition(p).getMyEmployee(); }
+    // The holders of posts 1 to 7, and the staff's names and jobs in their order.
+    std::vector<int> holders() {
+        std::vector<int> h;
+        for (int p = 1; p <= 7; ++p)
+            h.push_back(holder(p));
+        return h;
+    }
+    std::vector<std::string> names() {
+        std::vector<std::string> n;
+        for (int i = 1; i <= staff.employeeCount(); ++i)
+            n.push_back(emp(i).name);
+        return n;
+    }
+    std::vector<int> jobs() {
+        std::vector<int> j;
+        for (int i = 1; i <= staff.employeeCount(); ++i)
+            j.push_back(emp(i).job);
+        return j;
+    }
     int logged(const std::string& line) { return tg.screen.count(line); }
     const std::vector<std::string>& log() { return tg.screen.lines; }
 };
