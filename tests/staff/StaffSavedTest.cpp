@@ -23,28 +23,17 @@ TEST_F(SavedStaffTest, LoadingOverFiveKeepsTwoOfTheOldStaffInFront) {
     std::istringstream in(text);
     LineReader r(in, "test.zvn");
     staff.loadEmployees(r);
-    ASSERT_EQ(staff.employeeCount(), 4);
-    EXPECT_EQ(emp(1).name, "Bob Brown");
-    EXPECT_EQ(emp(2).name, "Dee Dunn");
-    EXPECT_EQ(emp(3).name, "Kay King");
-    EXPECT_EQ(emp(4).name, "Lou Lane");
-    EXPECT_EQ(emp(1).job, 2); // the kept staff keep their jobs
-    EXPECT_EQ(holder(2), 1);
-    EXPECT_EQ(holder(4), 2);
-    EXPECT_EQ(holder(1), 3); // overwritten by the loaded person
-    EXPECT_EQ(holder(3), 0); // Cy's post was cleared by the removal
-    EXPECT_EQ(holder(5), 0);
+    EXPECT_EQ(names(), Names({"Bob Brown", "Dee Dunn", "Kay King", "Lou Lane"}));
+    EXPECT_EQ(jobs(), Ints({2, 4, 1, 0})); // the kept staff keep their jobs
+    // Post 1 is overwritten by the loaded person; Cy's post was cleared by the removal.
+    EXPECT_EQ(holders(), Ints({3, 1, 0, 2, 0, 0, 0}));
     EXPECT_TRUE(log().empty()); // removals by loading say nothing
 }
 
 TEST_F(SavedStaffTest, ASavedFillInPutsTheLaterOfTwoIntoThePost) {
-    const std::string text = "minWage= 5.15\r\n" + memberBlock({"Ann Able", 2, 5, 2}) +
-                             memberBlock({"Hal Hunt", 2, 5, 2, 10, 0, 0, 0, true}) + "</emps>\r\n";
-    std::istringstream in(text);
-    LineReader r(in, "test.zvn");
-    staff.loadEmployees(r);
+    setStaff({{"Ann Able", 2, 5, 2}, {"Hal Hunt", 2, 5, 2, 10, 0, 0, 0, true}});
     EXPECT_EQ(holder(2), 2);
     emp(2).nextDay(); // the fill-in ends while the post still names Hal
-    EXPECT_EQ(emp(2).job, 0);
+    EXPECT_EQ(jobs(), Ints({2, 0}));
     EXPECT_EQ(holder(2), 2);
 }

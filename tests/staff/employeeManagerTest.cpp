@@ -274,12 +274,8 @@ TEST_F(ManagerTest, FillVacanciesFillsOnlyPostsAtExactlyZero) {
 // ---------------------------------------------------------------- hiring
 
 TEST_F(ManagerTest, TheDaysApplicantsAreTenDifferentNamesNumberedByRow) {
-    try {
-        staff.newCandidates(); // an empty pool
-        FAIL();
-    } catch (const GameError& e) {
-        EXPECT_EQ(e.kind(), GameError::Kind::Bounds);
-    }
+    // An empty pool first.
+    EXPECT_EQ(thrown([&] { staff.newCandidates(); }).value().kind(), GameError::Kind::Bounds);
     staff.loadEmployeeDatabase();
     g.rng.force({0.5 / 12, 0.5 / 12, 1.5 / 12}); // the second draw repeats a name
     for (int i = 2; i < 10; ++i)
