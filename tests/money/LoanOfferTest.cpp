@@ -13,19 +13,13 @@ TEST_F(LoanFixture, DefaultsFillTheOffer) {
     EXPECT_EQ(loans().getCreditScore(), 50);
     EXPECT_EQ(loans().interestRate, 2);
     EXPECT_EQ(loans().payPlanText, "6"); // an empty box is below the minimum
-    EXPECT_EQ(loans().offerPayments, 6);
-    EXPECT_EQ(loans().offerAmount, 0);
-    EXPECT_EQ(loans().offerMonthly, 0);
+    EXPECT_EQ(offered(), Figures({2, 0, 6, 0, 0}));
     EXPECT_EQ(creditText(loans()), "50 %");
 }
 
 TEST_F(LoanFixture, FlatInterestOnTheWholeAmount) {
     offer("$10,000", "10");
-    EXPECT_EQ(loans().offerRate, 2);
-    EXPECT_EQ(loans().offerAmount, 10000);
-    EXPECT_EQ(loans().offerPayments, 10);
-    EXPECT_EQ(loans().offerTotal, 12000); // each payment bears 2% of the whole 10000
-    EXPECT_EQ(loans().offerMonthly, 1200);
+    EXPECT_EQ(offered(), Figures({2, 10000, 10, 12000, 1200})); // each bears 2% of 10000
     EXPECT_EQ(loanOfferTexts(loans()),
               (std::array<std::string, 4>{"2 %", "$1,200", "$12,000", "$10,000"}));
     offer("12abc3", "6.5"); // letters are skipped; 6.5 rounds to the even 6
@@ -35,41 +29,30 @@ TEST_F(LoanFixture, FlatInterestOnTheWholeAmount) {
 
 TEST_F(LoanFixture, TheTotalIsMadeBeforeThePaymentsAreLimited) {
     take("10000", "60"); // a loan taken right away keeps the uncorrected figures
-    EXPECT_EQ(loans().payPlan, 48);
-    EXPECT_DOUBLE_EQ(loans().monthlyPayment, 22000.0 / 48);
-    EXPECT_EQ(loans().offerPayments, 48);
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 48, 48, 22000.0 / 48}));
     EXPECT_EQ(loans().payPlanText, "48");
-    EXPECT_EQ(loans().offerTotal, 10000 + 60 * 200); // on the number typed
-    EXPECT_DOUBLE_EQ(loans().offerMonthly, 22000.0 / 48);
+    EXPECT_EQ(offered(), Figures({2, 10000, 48, 10000 + 60 * 200, 22000.0 / 48})); // as typed
     loans().payPlanKeyPress(13); // a second Enter puts them right
-    EXPECT_EQ(loans().offerTotal, 10000 + 48 * 200);
-    EXPECT_DOUBLE_EQ(loans().offerMonthly, 19600.0 / 48);
-
+    EXPECT_EQ(offered(), Figures({2, 10000, 48, 10000 + 48 * 200, 19600.0 / 48}));
     offer("10000", "2");
-    EXPECT_EQ(loans().offerPayments, 6);
     EXPECT_EQ(loans().payPlanText, "6");
-    EXPECT_EQ(loans().offerTotal, 10400);
-    EXPECT_DOUBLE_EQ(loans().offerMonthly, 10400.0 / 6);
+    EXPECT_EQ(offered(), Figures({2, 10000, 6, 10400, 10400.0 / 6}));
 }
 
 TEST_F(LoanFixture, ThePaymentsBoxIsReadOnlyOnEnterOrLeaving) {
     offer("10000", "10");
     loans().typePayPlan("20");
     loans().payPlanKeyPress('2'); // other keys do nothing
-    EXPECT_EQ(loans().offerPayments, 10);
-    EXPECT_EQ(loans().offerTotal, 12000);
+    EXPECT_EQ(offered(), Figures({2, 10000, 10, 12000, 1200}));
     loans().payPlanLostFocus();
-    EXPECT_EQ(loans().offerPayments, 20);
-    EXPECT_EQ(loans().offerTotal, 14000);
+    EXPECT_EQ(offered(), Figures({2, 10000, 20, 14000, 700}));
 }
 
 TEST_F(LoanFixture, AnAmountAboveTheMaximumIsCutAndWorkedOutAgain) {
     loans().typePayPlan("10");
     loans().typeAmount("70000"); // the maximum at score 50 is 50000
     EXPECT_EQ(loans().amountText, "$50,000");
-    EXPECT_EQ(loans().offerAmount, 50000);
-    EXPECT_EQ(loans().offerTotal, 60000); // worked out on the cut amount, not on 70000
-    EXPECT_EQ(loans().offerMonthly, 6000);
+    EXPECT_EQ(offered(), Figures({2, 50000, 10, 60000, 6000})); // on the cut amount
     offer("50000", "10"); // exactly the maximum stands as typed
     EXPECT_EQ(loans().amountText, "50000");
     EXPECT_EQ(loans().offerAmount, 50000);

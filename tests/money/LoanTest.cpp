@@ -32,13 +32,8 @@ TEST_F(LoanFixture, ALoanTakenPaysOutAsIncomeOfNoDepartment) {
     EXPECT_EQ(money().totalincome, 10000);
     EXPECT_EQ(money().incdepmovie + money().incdeparcade + money().incdepconcessions, 0);
     EXPECT_EQ(game.screen.lines.back(), "Congrats, you're now in debt!");
-    EXPECT_EQ(loans().interestRate, 2);
-    EXPECT_EQ(loans().balance, 10000);
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200}));
     EXPECT_EQ(loans().getBalance(), 10000);
-    EXPECT_EQ(loans().payPlan, 10);
-    EXPECT_EQ(loans().paymentsRemaining, 10);
-    EXPECT_EQ(loans().monthlyPayment, 1200);
-    EXPECT_EQ(loans().loanAmount, 10000);
     EXPECT_EQ(currentLoanTexts(loans()),
               (std::array<std::string, 5>{"$10,000", "2 %", "10", "$10,000", "$1,200"}));
 }
@@ -57,12 +52,7 @@ TEST_F(LoanFixture, ChargedMonthlyRaisingTheScoreUntilTheBalanceIsZero) {
     loans().loansNextMonth();
     EXPECT_EQ(money().deploan, 12000);
     EXPECT_EQ(loans().getCreditScore(), 55);
-    EXPECT_EQ(loans().loanAmount, 0);
-    EXPECT_EQ(loans().balance, 0);
-    EXPECT_EQ(loans().monthlyPayment, 0);
-    EXPECT_EQ(loans().paymentsRemaining, 0);
-    EXPECT_EQ(loans().interestRate, 2); // the rate and the plan stay behind
-    EXPECT_EQ(loans().payPlan, 10);
+    EXPECT_EQ(loan(), Figures({0, 0, 2, 10, 0, 0})); // the rate and the plan stay behind
     loans().loansNextMonth();
     EXPECT_EQ(money().deploan, 12000);
 }
@@ -73,13 +63,12 @@ TEST_F(LoanFixture, OneLoanAtATimeAndANewOneRightAfterPayingOff) {
     take("5000", "10");
     EXPECT_EQ(game.screen.lines.back(),
               "You cannot start a new loan until the existing debt is paid off!");
-    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200}));
     EXPECT_EQ(money().funds, 10100);
     money().setFunds(100000);
     loans().payOffLoan(); // the panel still shows the old loan: the balance is what counts
     take("20000", "20");
-    EXPECT_EQ(loans().loanAmount, 20000);
-    EXPECT_EQ(loans().balance, 20000);
+    EXPECT_EQ(loan(), Figures({20000, 20000, 2, 20, 20, 1400}));
 }
 
 TEST_F(LoanFixture, AThousandInThreeTakesAFourthFullPayment) {
@@ -114,8 +103,7 @@ TEST_F(LoanFixture, TooManyMissesInARowLoseTheGame) {
     loans().loansNextMonth();
     EXPECT_EQ(game.screen.count(missWarning), 2);
     EXPECT_EQ(game->loseShown, 0);
-    EXPECT_EQ(loans().balance, 10000); // a miss moves nothing of the loan
-    EXPECT_EQ(loans().paymentsRemaining, 10);
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200})); // a miss moves nothing
     loadLoans(loans(), "balance=10000\r\n</loans>\r\n");
     EXPECT_EQ(loans().missedPayments, 2); // a load leaves the misses in a row as they were
     loans().loansNextMonth();             // loangrace 2: the third miss in a row loses
@@ -166,7 +154,7 @@ TEST_F(LoanFixture, PayingOffRaisesTheScoreByTheMonthlyPaymentOnly) {
               "You could not afford the final loan payment of $9,200, this includes the "
               "remaining balance plus interest for one more payment.");
     EXPECT_EQ(money().funds, 9200);
-    EXPECT_EQ(loans().balance, 9000);
+    EXPECT_EQ(loan(), Figures({10000, 9000, 2, 10, 9, 1200}));
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.5);
     money().setFunds(9201);
     loans().payOffLoan();
@@ -174,16 +162,11 @@ TEST_F(LoanFixture, PayingOffRaisesTheScoreByTheMonthlyPaymentOnly) {
     EXPECT_EQ(money().deploan, 1200 + 9200);
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.56); // pay-off: only the monthly payment
     EXPECT_EQ(game.screen.lines.back(), "You have cleared your debt with the bank!");
-    EXPECT_EQ(loans().balance, 0);
-    EXPECT_EQ(loans().paymentsRemaining, 0);
-    EXPECT_EQ(loans().loanAmount, 10000); // the panel shows the old loan
-    EXPECT_EQ(loans().monthlyPayment, 1200);
-    loans().loansNextMonth(); // a paid-off loan is not touched
-    EXPECT_EQ(money().deploan, 10400);
-    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(loan(), Figures({10000, 0, 2, 10, 0, 1200})); // the panel shows the old loan
+    loans().loansNextMonth();                               // a paid-off loan is not touched
+    EXPECT_EQ(loan(), Figures({10000, 0, 2, 10, 0, 1200}));
     loans().payOffLoan(); // the second press clears it
-    EXPECT_EQ(loans().loanAmount, 0);
-    EXPECT_EQ(loans().monthlyPayment, 0);
+    EXPECT_EQ(loan(), Figures({0, 0, 2, 10, 0, 0}));
     EXPECT_EQ(money().deploan, 10400);
 }
 
