@@ -14,8 +14,7 @@ struct Texts : MovieFixture {
                   "Exactly Thirty Characters Long\n"   // 30
                   "Thirty-One Characters Long Title\n" // 32
                   "Night of the Lepus\n");
-        for (int i = 1; i <= 4; ++i)
-            mm().catalogueMovie(i).setMyPopularity(10 * i);
+        pops({10, 20, 30, 40});
     }
 };
 

@@ -54,22 +54,16 @@ TEST_F(Shows, NoMovieMeansNoDemandAndNoRoll) {
     EXPECT_THROW(mm().getDemand(9), GameError);
 }
 
-TEST_F(Shows, DemandGathersItsTermsInOrder) {
-    g().rating.currentRating = 40;
-    book(1, {3});
-    g().rng.force(standardRoll);
-    // 15 + 50 * 0.6 = 45; - 0.06 * 6 * 100 = 9; showtime 3: 7; rating 40 * 0.3: 19.
-    EXPECT_NEAR(mm().getDemand(3), 19, 1e-9);
-    EXPECT_EQ(g().rng.forcedLeft(), 0u);
-}
-
-TEST_F(Shows, DuplicatesCountEveryShowtimeUpToEight) {
+TEST_F(Shows, DemandGathersItsTermsInOrderAndDuplicatesCountEveryShowtimeUpToEight) {
     math().showtimes = 6;
     g().rating.currentRating = 40;
-    book(1, {3, 7, 8});
-    g().rng.force(standardRoll);
-    // D = 19 before the cut; two others: 2 * Int(12 * 19 / 100) = 2 * 2.
+    book(1, {3});
+    g().rng.force({standardRoll, standardRoll});
+    // 15 + 50 * 0.6 = 45; - 0.06 * 6 * 100 = 9; showtime 3: 7; rating 40 * 0.3: 19.
+    EXPECT_NEAR(mm().getDemand(3), 19, 1e-9);
+    book(1, {7, 8}); // two others: 2 * Int(12 * 19 / 100) = 2 * 2 off
     EXPECT_NEAR(mm().getDemand(3), 15, 1e-9);
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
 }
 
 TEST_F(Shows, TodaysShowSellsDemandTimesSeatsAndPaysTheAds) {
@@ -118,24 +112,18 @@ TEST_F(Shows, SeniorPriceEqualToMatineeMeansNoSeniorsYetDemandRollsSenior) {
     EXPECT_DOUBLE_EQ(st(3).getTodaysIncome(), 32 * 6);
 }
 
-TEST_F(Shows, AdsPayWhateverTheTurnout) {
+TEST_F(Shows, AdsPayWhateverTheTurnoutButNoSeatsNoTicketsAndTheCrowdCannotBeShared) {
     mm().myMovieAt(1).setMyPopularity(1);
     book(1, {3});
     mm().setShowtimeAds(3, 5);
     const double before = g().finances.totalincome;
-    g().rng.force(standardRoll);
+    g().rng.force({standardRoll, standardRoll});
     st(3).doBusiness(g().building.getSeating());
     EXPECT_EQ(st(3).getTodaysTicketSales(), 2); // 1 percent at least
     EXPECT_DOUBLE_EQ(g().finances.totalincome - before, 2 * 6 + 5 * 15);
-}
-
-TEST_F(Shows, NoSeatsNoTicketsAndTheCrowdCannotBeShared) {
     // A 1-percent house of fewer than 100 seats sells nothing, and the stand's share of an
     // audience of 0 is a division by zero.
     g().building.seating = 50;
-    mm().myMovieAt(1).setMyPopularity(1);
-    book(1, {3});
-    g().rng.force(standardRoll);
     EXPECT_THROW(st(3).doBusiness(g().building.getSeating()), GameError);
 }
 
