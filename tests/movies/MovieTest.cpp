@@ -117,19 +117,18 @@ INSTANTIATE_TEST_SUITE_P(Days, DropTable, ::testing::ValuesIn(dropCases),
 TEST_F(MovieUnit, ProfitIsZeroUntilTheFirstTicket) {
     loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\n");
     m().setFirstPrice(6000);
-    EXPECT_EQ(m().getMyProfit(), 0);
+    // Income, today's income, today's tickets, tickets sold, profit.
+    const auto figures = [&] {
+        return std::vector<double>{m().getMyIncome(), m().getTodaysIncome(),
+                                   static_cast<double>(m().getTodaysTickets()), m().getMySold(),
+                                   m().getMyProfit()};
+    };
+    EXPECT_EQ(figures(), std::vector<double>({0, 0, 0, 0, 0}));
     m().sellTickets(300, 50);
     m().sellTickets(120, 20);
-    EXPECT_EQ(m().getMyIncome(), 420);
-    EXPECT_EQ(m().getTodaysIncome(), 420);
-    EXPECT_EQ(m().getTodaysTickets(), 70);
-    EXPECT_EQ(m().getMySold(), 70);
-    EXPECT_EQ(m().getMyProfit(), 420 - 6000);
+    EXPECT_EQ(figures(), std::vector<double>({420, 420, 70, 70, 420 - 6000}));
     days(1);
-    EXPECT_EQ(m().getTodaysIncome(), 0);
-    EXPECT_EQ(m().getTodaysTickets(), 0);
-    EXPECT_EQ(m().getMyIncome(), 420);
-    EXPECT_EQ(m().getMySold(), 70);
+    EXPECT_EQ(figures(), std::vector<double>({420, 0, 0, 70, 420 - 6000}));
     m().sellTickets(0, 32767); // today's tickets are 16-bit
     EXPECT_THROW(m().sellTickets(0, 1), GameError);
 }
