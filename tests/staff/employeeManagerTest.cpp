@@ -360,9 +360,9 @@ TEST_F(ManagerTest, VinnysFeeIsPrintedWithCentsAndNoLeadingZero) {
 TEST_F(ManagerTest, TheChartRatesEachHoldersExperienceAgainstThePost) {
     setStaff({{"Ann Able", 2, 5, 1}, {"Bob Brown", 2, 5, 2}, {"Cy Cole", 2, 5, 3}});
     const PositionChart c = positionChart(staff);
-    EXPECT_EQ(c.rows[0].experience, "Over");
-    EXPECT_EQ(c.rows[1].experience, "Okay");
-    EXPECT_EQ(c.rows[2].experience, "Under");
-    EXPECT_EQ(c.rows[3].experience, "None");
+    Names rated;
+    for (const auto& row : c.rows)
+        rated.push_back(row.experience);
+    EXPECT_EQ(rated, Names({"Over", "Okay", "Under", "None", "None", "None", "None"}));
     EXPECT_EQ(c.rows[3].employee, "(Position not filled)");
 }

@@ -65,10 +65,8 @@ TEST_F(EmployeeTest, AFallBelowZeroMakesContentButAFallToExactlyZeroKeepsTheReas
     emp(2).angerreason = "Over Qualified";
     emp(1).nextDay();
     emp(2).nextDay();
-    EXPECT_EQ(emp(1).anger, 0);
-    EXPECT_EQ(emp(1).angerreason, "Over Qualified");
-    EXPECT_EQ(emp(2).anger, 0);
-    EXPECT_EQ(emp(2).angerreason, "Content");
+    EXPECT_EQ(std::tie(emp(1).anger, emp(1).angerreason), std::make_tuple(0, "Over Qualified"));
+    EXPECT_EQ(std::tie(emp(2).anger, emp(2).angerreason), std::make_tuple(0, "Content"));
 }
 
 TEST_F(EmployeeTest, ProbationMeansNoRollsAtAll) {
