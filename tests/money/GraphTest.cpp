@@ -90,24 +90,23 @@ TEST_F(GraphFixture, TenScaleLabelsWithTwoStepsAtTheTop) {
         double funds, history;
         std::array<std::string, 10> labels;
     };
+    // clang-format off
     const Case cases[] = {
         {11000, 1000, {"$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$7k", "$8k", "$9k", "$11k"}},
         // Only the low is floored: the steps keep their cents.
-        {225.75,
-         100.75,
-         {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175", "$187.50", "$200",
-          "$225"}},
-        {-2000,
-         8000,
-         {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$8k"}},
+        {225.75, 100.75, {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175",
+                          "$187.50", "$200", "$225"}},
+        {-2000, 8000, {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k",
+                       "$8k"}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         draw(1, c.funds, {{0, c.history}});
         EXPECT_EQ(graphTexts(g()).scale, c.labels) << c.funds;
     }
 }
 
-TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonth) {
+TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonthAndBadMonthsOrOverflowsAreErrors) {
     draw(1, 100, {});
     const std::array<std::string, 12> names = {"Mar", "Apr", "May", "Jun", "Jul", "Aug",
                                                "Sep", "Oct", "Nov", "Dec", "Jan", "Feb"};
@@ -123,6 +122,12 @@ TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonth) {
         setUp(month, 100, {});
         EXPECT_THROW(g().drawGraph(), GameError) << month;
     }
+    // Overflows are run-time errors too.
+    setUp(0, -1e308, {{0, 1e308}}); // the range leaves a double's range
+    EXPECT_THROW(g().drawGraph(), GameError);
+    setUp(1, 100, {{0, 200}});
+    g().picture.height = 40000; // an empty month's mark on the bottom edge: past 16 bits
+    EXPECT_THROW(g().drawGraph(), GameError);
 }
 
 TEST_F(GraphFixture, GridStandsWhereTheLabelsStand) {
@@ -173,12 +178,4 @@ TEST_F(GraphFixture, MonthBoxShowsTheStoredBalanceEvenForTheCurrentMonth) {
                                             "Funds for the month of Apr: $0"};
     EXPECT_EQ(game.dialogs.asked, boxes);
     EXPECT_THROW(g().showMonthFunds(13), GameError);
-}
-
-TEST_F(GraphFixture, OverflowsAreRunTimeErrors) {
-    setUp(0, -1e308, {{0, 1e308}}); // the range leaves a double's range
-    EXPECT_THROW(g().drawGraph(), GameError);
-    setUp(1, 100, {{0, 200}});
-    g().picture.height = 40000; // an empty month's mark on the bottom edge: past 16 bits
-    EXPECT_THROW(g().drawGraph(), GameError);
 }
