@@ -25,31 +25,23 @@ void loadLoans(loanManager& loans, const std::string& body) {
 
 } // namespace
 
-TEST_F(LoanFixture, ALoanTakenPaysOutAsIncomeOfNoDepartment) {
-    money().setFunds(5000);
+TEST_F(LoanFixture, ALoanPaysOutAsIncomeOfNoDepartmentAndIsChargedMonthlyUntilPaidBack) {
+    money().setFunds(100000);
     take("10000", "10");
-    EXPECT_EQ(money().funds, 15000);
+    EXPECT_EQ(money().funds, 110000);
     EXPECT_EQ(money().totalincome, 10000);
     EXPECT_EQ(money().incdepmovie + money().incdeparcade + money().incdepconcessions, 0);
     EXPECT_EQ(game.screen.lines.back(), "Congrats, you're now in debt!");
-    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200}));
     EXPECT_EQ(loans().getBalance(), 10000);
     EXPECT_EQ(currentLoanTexts(loans()),
               (std::array<std::string, 5>{"$10,000", "2 %", "10", "$10,000", "$1,200"}));
-}
-
-TEST_F(LoanFixture, ChargedMonthlyRaisingTheScoreUntilTheBalanceIsZero) {
-    money().setFunds(100000);
-    take("10000", "10");
-    for (int month = 1; month <= 9; ++month) {
-        loans().loansNextMonth();
+    for (int month = 0; month <= 9; ++month) { // the balance is the principal only
+        EXPECT_EQ(loan(), Figures({10000, 10000 - 1000.0 * month, 2, 10, 10.0 - month, 1200}));
         EXPECT_EQ(money().funds, 110000 - 1200.0 * month);
         EXPECT_EQ(money().deploan, 1200.0 * month);
         EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50 + 0.5 * month); // 10000 * 0.00005
-        EXPECT_EQ(loans().balance, 10000 - 1000.0 * month);           // principal only
-        EXPECT_EQ(loans().paymentsRemaining, 10 - month);
+        loans().loansNextMonth();
     }
-    loans().loansNextMonth();
     EXPECT_EQ(money().deploan, 12000);
     EXPECT_EQ(loans().getCreditScore(), 55);
     EXPECT_EQ(loan(), Figures({0, 0, 2, 10, 0, 0})); // the rate and the plan stay behind

@@ -21,7 +21,7 @@ void loadSection(const std::string& text, void (MovieManager::*load)(LineReader&
 
 // ---------------------------------------------------------------- catalogue
 
-TEST_F(Booker, CatalogueTakesEveryLineAsATitle) {
+TEST_F(Booker, CatalogueTakesEveryLineAsATitleAndAnEmptyOneFailsAtTheRelease) {
     setUpWith("One\n\nThree\r\nFour");
     ASSERT_EQ(mm().allMoviesCount(), 4);
     EXPECT_EQ(mm().catalogueMovie(2).getMyTitle(), ""); // a blank line is a title too
@@ -33,6 +33,11 @@ TEST_F(Booker, CatalogueTakesEveryLineAsATitle) {
         EXPECT_LE(pop, 100);
         EXPECT_EQ(mm().catalogueMovie(i).getMyPrice(), pop * 100.0);
     }
+    setUpWith(""); // an empty catalogue fails at the release
+    EXPECT_EQ(mm().allMoviesCount(), 0);
+    math().movieminreleases = 1;
+    g().rng.force({0.0, 0.5}); // one draw: Int(0 * u + 1) = 1, a title that is not there
+    EXPECT_THROW(mm().releaseMovies(), GameError);
 }
 
 TEST_F(Booker, PopularityIsRolledUntilItLiesWithinTheBounds) {
@@ -87,22 +92,6 @@ TEST_F(Booker, ReleaseDrawsFromMinUpToJustShortOfMinPlusMax) {
     mm().releaseMovies();
     EXPECT_EQ(logged("7 new movies have been released this week."), 1);
     EXPECT_EQ(offered(), Titles{"Alpha"});
-}
-
-TEST_F(Booker, AnOwnedTitleMayComeUpAgainAsTheSameObject) {
-    own({2});
-    offer({2});
-    ASSERT_EQ(mm().buyMoviesCount(), 1);
-    EXPECT_EQ(&mm().buyMovieAt(1), &mm().myMovieAt(1));
-    EXPECT_TRUE(mm().sharesObject(1, 2));
-}
-
-TEST_F(Booker, AnEmptyCatalogueFailsAtTheRelease) {
-    setUpWith("");
-    EXPECT_EQ(mm().allMoviesCount(), 0);
-    math().movieminreleases = 1;
-    g().rng.force({0.0, 0.5}); // one draw: Int(0 * u + 1) = 1, a title that is not there
-    EXPECT_THROW(mm().releaseMovies(), GameError);
 }
 
 TEST_F(Booker, OfferIsSortedByPopularityAndDropsOutOfRangeOnes) {
@@ -343,12 +332,14 @@ TEST_F(Booker, InflationReachesOwnedTitlesThroughTheCatalogue) {
     EXPECT_DOUBLE_EQ(mm().catalogueMovie(2).getMyPrice(), other * 1.03);
 }
 
-TEST_F(Booker, LoadedMoviesAreNewObjectsWithoutTodaysSales) {
+TEST_F(Booker, OwnedTitlesShareTheCatalogueObjectLoadedOnesAreNewWithoutTodaysSales) {
     g().building.seating = 150;
     own({1});
     book(1, {3});
     mm().showtimeAt(3).doBusiness(g().building.getSeating());
     EXPECT_TRUE(mm().sharesObject(1, 1));
+    offer({1}); // an owned title may come up again, as the same object
+    EXPECT_EQ(&mm().buyMovieAt(1), &mm().myMovieAt(1));
     const double income = mm().myMovieAt(1).getMyIncome();
     ASSERT_GT(mm().myMovieAt(1).getMySold(), 0);
     std::ostringstream text;
