@@ -9,15 +9,12 @@
 using namespace zorvane;
 using namespace zorvane::test;
 
-TEST_F(LoanFixture, DefaultsFillTheOffer) {
+TEST_F(LoanFixture, DefaultsFillTheOfferThenFlatInterestOnTheWholeAmount) {
     EXPECT_EQ(loans().getCreditScore(), 50);
     EXPECT_EQ(loans().interestRate, 2);
     EXPECT_EQ(loans().payPlanText, "6"); // an empty box is below the minimum
     EXPECT_EQ(offered(), Figures({2, 0, 6, 0, 0}));
     EXPECT_EQ(creditText(loans()), "50 %");
-}
-
-TEST_F(LoanFixture, FlatInterestOnTheWholeAmount) {
     offer("$10,000", "10");
     EXPECT_EQ(offered(), Figures({2, 10000, 10, 12000, 1200})); // each bears 2% of 10000
     EXPECT_EQ(loanOfferTexts(loans()),
@@ -37,6 +34,8 @@ TEST_F(LoanFixture, TheTotalIsMadeBeforeThePaymentsAreLimited) {
     offer("10000", "2");
     EXPECT_EQ(loans().payPlanText, "6");
     EXPECT_EQ(offered(), Figures({2, 10000, 6, 10400, 10400.0 / 6}));
+    game->math.loanpaymentsmin = Int16{0};
+    EXPECT_THROW(offer("1000", "0"), GameError); // no payments at all: a division by zero
 }
 
 TEST_F(LoanFixture, ThePaymentsBoxIsReadOnlyOnEnterOrLeaving) {
@@ -104,9 +103,4 @@ TEST_F(LoanFixture, AGoalsLoanIsCutByTheOfferAsIfTyped) {
     EXPECT_EQ(loans().getCreditScore(), 60);
     EXPECT_EQ(loans().amountText, "$60,000");
     EXPECT_EQ(loans().payPlanText, "12");
-}
-
-TEST_F(LoanFixture, NoPaymentsAtAllIsADivisionByZero) {
-    game->math.loanpaymentsmin = Int16{0};
-    EXPECT_THROW(offer("1000", "0"), GameError);
 }

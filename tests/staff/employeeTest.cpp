@@ -168,11 +168,10 @@ TEST_F(EmployeeTest, TextFormsPutTheNumberFirst) {
     employee& e = emp(1);
     e.angerreason = "Need more work";
     EXPECT_EQ(e.getMyExp(), 7);
-    EXPECT_EQ(e.getMyExpText(), "9-Manager");
-    EXPECT_EQ(e.getMyRelText(), "10-Superb");
-    EXPECT_EQ(e.getMyAmbText(), "5-Average");
-    EXPECT_EQ(e.getMyJobText(), "7-Manager");
-    EXPECT_EQ(e.getMyAngerLevelText(), "(12/100)-Need more work");
+    EXPECT_EQ(
+        Names({e.getMyExpText(), e.getMyRelText(), e.getMyAmbText(), e.getMyJobText(),
+               e.getMyAngerLevelText()}),
+        Names({"9-Manager", "10-Superb", "5-Average", "7-Manager", "(12/100)-Need more work"}));
     e.rel = 11;
     EXPECT_THROW(e.getMyRelText(), GameError);
     e.job = 8;
