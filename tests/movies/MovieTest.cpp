@@ -47,24 +47,6 @@ TEST_F(MovieUnit, PriceFollowsPopularityFlooredAndCapped) {
     EXPECT_THROW(m().setMyPopularity(50), GameError);
 }
 
-TEST_F(MovieUnit, FirstDropComesOnTheSeventhDay) {
-    loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\nfirstPrice=6000\r\n");
-    const auto draws = g().rng.draws();
-    days(6);
-    EXPECT_EQ(g().rng.draws(), draws); // no roll before the drop day
-    EXPECT_EQ(m().getMyPopularity(), 60);
-    EXPECT_EQ(m().getMyPrice(), 6000); // the price paid stands until the first drop
-    g().rng.force(0.5);                // a drop of Int(8 * 0.5 + 1) = 5
-    days(1);
-    EXPECT_EQ(m().getMyDays(), 7);
-    EXPECT_EQ(m().getMyPopularity(), 55);
-    // 55 * 100 / (100 - 1) percent of what was paid, floored.
-    EXPECT_EQ(m().getMyPrice(), 3333);
-    g().rng.force(0.0);
-    days(7);
-    EXPECT_EQ(m().getMyPopularity(), 54);
-}
-
 // A bought movie's days: what it holds after `days` with the drop every `dropDays` days.
 struct DropCase {
     const char* name;
@@ -75,6 +57,11 @@ struct DropCase {
 };
 
 const DropCase dropCases[] = {
+    // No roll before the drop day; the price paid stands until the first drop, then it is
+    // 55 * 100 / (100 - 1) percent of what was paid, floored.
+    {"NoDropBeforeTheSeventhDay", 60, 5, 6000, 7, {}, 6, 60, 6000},
+    {"FirstDropOnTheSeventhDay", 60, 5, 6000, 7, {0.5}, 7, 55, 3333},
+    {"NextDropSevenDaysLater", 60, 5, 6000, 7, {0.5, 0.0}, 14, 54, -1},
     {"DailyDrops", 60, 5, 6000, 1, {0.0, 0.0}, 2, 58, -1},
     {"DropDaysBelowOneNeverDrop", 60, 5, 6000, 0, {}, 30, 60, 6000},
     {"AtTheClassicLevelNoDropNorRoll", 20, 20, 900, 1, {}, 3, 20, 900},
