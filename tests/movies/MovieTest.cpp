@@ -61,7 +61,7 @@ const DropCase dropCases[] = {
     // 55 * 100 / (100 - 1) percent of what was paid, floored.
     {"NoDropBeforeTheSeventhDay", 60, 5, 6000, 7, {}, 6, 60, 6000},
     {"FirstDropOnTheSeventhDay", 60, 5, 6000, 7, {0.5}, 7, 55, 3333},
-    {"NextDropSevenDaysLater", 60, 5, 6000, 7, {0.5, 0.0}, 14, 54, -1},
+    {"NextDropSevenDaysLater", 60, 5, 6000, 7, {0.5, 0.0}, 14, 54, 3272},
     {"DailyDrops", 60, 5, 6000, 1, {0.0, 0.0}, 2, 58, -1},
     {"DropDaysBelowOneNeverDrop", 60, 5, 6000, 0, {}, 30, 60, 6000},
     {"AtTheClassicLevelNoDropNorRoll", 20, 20, 900, 1, {}, 3, 20, 900},
