@@ -69,9 +69,13 @@ TEST_F(EmployeeTest, AFallBelowZeroMakesContentButAFallToExactlyZeroKeepsTheReas
     EXPECT_EQ(std::tie(emp(2).anger, emp(2).angerreason), std::make_tuple(0, "Content"));
 }
 
-TEST_F(EmployeeTest, ProbationMeansNoRollsAtAll) {
+TEST_F(EmployeeTest, ProbationMeansNoRollsAtAllThenWorkRatioAndPatienceDecideTheNoWorkRoll) {
     g.math.empprobation = 3;
-    setStaff({{"Ann Able", 1, 5, 0, 10, 0, 0, 1}});
+    g.math.empoverqualifiedquitchance = 0;
+    // Worked 24 or 25 of 100 days (after the day's count); patience 5 * 5 = 25.
+    setStaff({{"Ann Able", 1, 5, 0, 10, 0, 0, 1},
+              {"Bob Brown", 1, 5, 0, 10, 0, 24, 99},
+              {"Cy Cole", 1, 5, 0, 10, 0, 25, 99}});
     const auto before = g.rng.draws();
     emp(1).nextDay(); // day 2 of 3
     EXPECT_EQ(g.rng.draws(), before);
@@ -79,22 +83,17 @@ TEST_F(EmployeeTest, ProbationMeansNoRollsAtAll) {
     g.rng.force({roll(100), roll(100)});
     emp(1).nextDay(); // day 3: the no-work roll and the over-qualified roll
     EXPECT_EQ(g.rng.forcedLeft(), 0u);
-}
-
-TEST_F(EmployeeTest, WorkRatioAndPatienceDecideTheNoWorkRoll) {
-    g.math.empprobation = 0;
-    g.math.empoverqualifiedquitchance = 0;
-    // Worked 24 of 100 days (after the day's count): ratio 24; patience 5 * 5 = 25.
-    setStaff({{"Ann Able", 1, 5, 0, 10, 0, 24, 99}});
-    g.rng.force({roll(24), roll(100)}); // patience 25 above roll 24: angry
-    emp(1).nextDay();
-    EXPECT_EQ(emp(1).anger, 8);
-    // Worked 25 of 100: ratio 25 is not below patience 25: no roll at all.
-    setStaff({{"Bob Brown", 1, 5, 0, 10, 0, 25, 99}});
-    g.rng.force(roll(100)); // only the over-qualified roll
-    emp(1).nextDay();
-    EXPECT_EQ(g.rng.forcedLeft(), 0u);
-    EXPECT_EQ(emp(1).anger, 0);
+    g.rng.force({roll(24), roll(100)}); // ratio 24, patience 25 above roll 24: angry
+    emp(2).nextDay();
+    EXPECT_EQ(emp(2).anger, 8);
+    g.rng.force({roll(25), roll(100)}); // the next day a roll of 25 is not below patience 25
+    emp(2).nextDay();
+    EXPECT_EQ(emp(2).anger, 6);
+    const auto draws = g.rng.draws();
+    g.rng.force(roll(100)); // ratio 25 is not below patience 25: only the over-qualified roll
+    emp(3).nextDay();
+    EXPECT_EQ(g.rng.draws(), draws + 1);
+    EXPECT_EQ(emp(3).anger, 0);
 }
 
 // ---------------------------------------------------------------- learning
@@ -103,7 +102,7 @@ TEST_F(EmployeeTest, WorkRatioAndPatienceDecideTheNoWorkRoll) {
 // is harder to raise; a failed gate makes no further draw.
 TEST_F(EmployeeTest, LearningTakesThreeDrawsAndAJobAboveTheLevelTeachesFaster) {
     g.math.empprobation = 0;
-    setStaff({{"Ann Able", 2, 10, 3}, {"Bob Brown", 5, 10, 5}});
+    setStaff({{"Ann Able", 2, 10, 3}, {"Bob Brown", 5, 10, 5}, {"Cy Cole", 4, 10, 3}});
     // chance 50 against roll 11; draw 1 plus (3 - 2) = 2, not below exp 2; roll 5 <= 5.
     g.rng.force({roll(11), 0.0, roll(5)});
     emp(1).nextDay();
@@ -120,17 +119,11 @@ TEST_F(EmployeeTest, LearningTakesThreeDrawsAndAJobAboveTheLevelTeachesFaster) {
     emp(2).nextDay();
     EXPECT_EQ(g.rng.forcedLeft(), 0u);
     EXPECT_EQ(emp(2).exp, 5);
-}
-
-TEST_F(EmployeeTest, AtTheLimitAboveTheJobNoLearningButTheOverQualifiedRollEveryDay) {
-    g.math.empprobation = 0;
-    g.math.empoverqualifiedquitchance = 20;
-    setStaff({{"Ann Able", 4, 10, 3}});
-    g.rng.force(roll(20)); // only the over-qualified roll: at most 20 angers
-    emp(1).nextDay();
+    // At the limit above the job: no learning, but the over-qualified roll every day.
+    g.rng.force(roll(20)); // at most 20 angers
+    emp(3).nextDay();
     EXPECT_EQ(g.rng.forcedLeft(), 0u);
-    EXPECT_EQ(emp(1).anger, 18);
-    EXPECT_EQ(emp(1).angerreason, "Over Qualified");
+    EXPECT_EQ(std::tie(emp(3).anger, emp(3).angerreason), std::make_tuple(18, "Over Qualified"));
 }
 
 // ---------------------------------------------------------------- sickness and pay
