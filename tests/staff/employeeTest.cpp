@@ -145,20 +145,17 @@ TEST_F(EmployeeTest, AttendanceRoundsHalfToEven) {
     EXPECT_EQ(logged("Bob Brown has called in sick today."), 0); // slot 3: once a day
 }
 
-TEST_F(EmployeeTest, TrainingCostIsFixedWhenFirstAskedFor) {
-    setStaff({{"Ann Able", 3}, {"Bob Brown", 9}});
-    EXPECT_EQ(emp(1).trainingcost, 0);
-    EXPECT_DOUBLE_EQ(emp(1).getMyTrainingCost(), 700); // 1000 - 3 * 700 / 7
-    emp(1).exp = 6;
-    EXPECT_DOUBLE_EQ(emp(1).getMyTrainingCost(), 700);
-    EXPECT_DOUBLE_EQ(emp(2).getMyTrainingCost(), 100); // the true experience 9
-}
-
 // ---------------------------------------------------------------- texts and face
 
-TEST_F(EmployeeTest, TextFormsPutTheNumberFirst) {
-    setStaff({{"Ann Able", 9, 5, 7, 10, 12}});
+TEST_F(EmployeeTest, TrainingCostAndTextFormsWithTheNumberFirst) {
+    setStaff({{"Ann Able", 9, 5, 7, 10, 12}, {"Bob Brown", 3}});
     employee& e = emp(1);
+    // The training price is fixed when first asked for, on the true experience.
+    EXPECT_EQ(emp(2).trainingcost, 0);
+    EXPECT_DOUBLE_EQ(emp(2).getMyTrainingCost(), 700); // 1000 - 3 * 700 / 7
+    emp(2).exp = 6;
+    EXPECT_DOUBLE_EQ(emp(2).getMyTrainingCost(), 700);
+    EXPECT_DOUBLE_EQ(e.getMyTrainingCost(), 100);
     e.angerreason = "Need more work";
     EXPECT_EQ(e.getMyExp(), 7);
     EXPECT_EQ(
