@@ -277,7 +277,7 @@ TEST_F(ManagerTest, FillVacanciesFillsOnlyPostsAtExactlyZero) {
 
 // ---------------------------------------------------------------- hiring
 
-TEST_F(ManagerTest, TheDaysApplicantsAreTenDifferentNamesNumberedByRow) {
+TEST_F(ManagerTest, TheDaysApplicantsAreTenDifferentNamesAndAHireTakesTheOpenPostOfItsLevel) {
     // An empty pool first.
     EXPECT_EQ(thrown([&] { staff.newCandidates(); }).value().kind(), GameError::Kind::Bounds);
     staff.loadEmployeeDatabase();
@@ -292,12 +292,7 @@ TEST_F(ManagerTest, TheDaysApplicantsAreTenDifferentNamesNumberedByRow) {
     for (int r = 1; r <= 10; ++r)
         EXPECT_EQ(staff.getCandidate(r).num, r);
     EXPECT_EQ(staff.getCandidate(1).trainingcost, 900); // shown, so fixed
-}
-
-TEST_F(ManagerTest, AHireGoesStraightIntoTheOpenPostOfItsLevel) {
-    staff.loadEmployeeDatabase();
-    forceFirstTenApplicants();
-    staff.newCandidates();
+    // A hire goes straight into the open post of its level.
     g.finances.funds = 500;
     staff.hireEmployee(1); // 900: the applicant stays in the table
     EXPECT_EQ(staff.employeeCount(), 0);

@@ -36,16 +36,14 @@ TEST_F(PositionTest, AWageBelowTheMinimumIsRaisedToItWithAMessageAlsoAtStartUp) 
                      "5-Projectionist", "6-Assistant Manager", "7-Manager"}));
 }
 
-TEST_F(PositionTest, TheInputBoxAsksForTheWageOfThePost) {
+TEST_F(PositionTest, TheInputBoxAsksForTheWageOfThePostAndReadsItsLeadingNumber) {
     tg.dialogs.inputs.push_back("8.75");
     staff.getPosition(4).setWageInput();
     EXPECT_EQ(tg.dialogs.prompt, "Enter new wage for position of Ticket Seller");
     EXPECT_EQ(tg.dialogs.title, "Set position wage");
     EXPECT_EQ(tg.dialogs.defaultText, "7.25");
     EXPECT_EQ(staff.getPosition(4).getWage(), 8.75);
-}
-
-TEST_F(PositionTest, WhatThePlayerTypesIsReadAsItsLeadingNumber) {
+    // What the player types is read as its leading number.
     position& post = staff.getPosition(2);
     const auto enter = [&](const std::string& text) {
         tg.dialogs.inputs.push_back(text);
