@@ -106,7 +106,7 @@ TEST_F(LoanFixture, TooManyMissesInARowLoseTheGame) {
     EXPECT_EQ(money().deploan, 0);
 }
 
-TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgain) {
+TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgainAndNoGraceLosesOnTheFirstMiss) {
     take("10000", "10");
     for (int round = 0; round < 3; ++round) {
         money().setFunds(100);
@@ -119,14 +119,11 @@ TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgain) {
     }
     EXPECT_EQ(game->loseShown, 0);
     EXPECT_EQ(loans().paymentsRemaining, 7);
-}
-
-TEST_F(LoanFixture, NoGraceLosesOnTheFirstMiss) {
+    EXPECT_EQ(game.screen.count(missWarning), 6);
     game->math.loangrace = Int16{0};
-    take("10000", "10");
     money().setFunds(100);
     loans().loansNextMonth();
-    EXPECT_EQ(game.screen.count(missWarning), 0);
+    EXPECT_EQ(game.screen.count(missWarning), 6);
     EXPECT_EQ(game.screen.lines.back(), missLoss);
     EXPECT_EQ(game->loseShown, 1);
 }

@@ -1,6 +1,7 @@
 #include "StaffFixture.h"
 
 #include "core/GameError.h"
+#include "core/LineFile.h"
 #include "staff/StaffTexts.h"
 
 using namespace zorvane;
@@ -201,6 +202,35 @@ TEST_F(ManagerTest, AStaffMemberDrawnAsApplicantOnTheDayHeQuitsRemovesTheWrongPe
     EXPECT_EQ(logged("Ann Able  quit saying 'I'm fed up with this job!!'"), 1);
     EXPECT_EQ(names(), Names{"Bob Brown"});
     EXPECT_EQ(emp(1).num, 1);
+}
+
+// ---------------------------------------------------------------- saved staff
+
+// Loading a saved staff over the staff of the running game.
+TEST_F(ManagerTest, LoadingOverFiveKeepsTwoOfTheOldStaffInFront) {
+    setStaff({{"Ann Able", 1, 5, 1},
+              {"Bob Brown", 2, 5, 2},
+              {"Cy Cole", 3, 5, 3},
+              {"Dee Dunn", 4, 5, 4},
+              {"Eve East", 5, 5, 5}});
+    const std::string text = "minWage= 5.15\r\n" + memberBlock({"Kay King", 1, 5, 1}) +
+                             memberBlock({"Lou Lane", 2, 5, 0}) + "</emps>\r\n";
+    std::istringstream in(text);
+    LineReader r(in, "test.zvn");
+    staff.loadEmployees(r);
+    EXPECT_EQ(names(), Names({"Bob Brown", "Dee Dunn", "Kay King", "Lou Lane"}));
+    EXPECT_EQ(jobs(), Ints({2, 4, 1, 0})); // the kept staff keep their jobs
+    // Post 1 is overwritten by the loaded person; Cy's post was cleared by the removal.
+    EXPECT_EQ(holders(), Ints({3, 1, 0, 2, 0, 0, 0}));
+    EXPECT_TRUE(log().empty()); // removals by loading say nothing
+}
+
+TEST_F(ManagerTest, ASavedFillInPutsTheLaterOfTwoIntoThePost) {
+    setStaff({{"Ann Able", 2, 5, 2}, {"Hal Hunt", 2, 5, 2, 10, 0, 0, 0, true}});
+    EXPECT_EQ(holder(2), 2);
+    emp(2).nextDay(); // the fill-in ends while the post still names Hal
+    EXPECT_EQ(jobs(), Ints({2, 0}));
+    EXPECT_EQ(holder(2), 2);
 }
 
 // ---------------------------------------------------------------- assignment
