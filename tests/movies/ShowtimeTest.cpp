@@ -24,7 +24,7 @@ struct Shows : MovieFixture {
 
 } // namespace
 
-TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtime) {
+TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtimeAndNoMovieMeansNoDemand) {
     book(1, {3, 4});
     mm().setShowtimeAds(3, 4);
     EXPECT_EQ(st(3).getMoviePopularity(), 42);
@@ -34,6 +34,12 @@ TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtime) {
     mm().setShowtimeAds(3, 5);
     EXPECT_EQ(st(3).getMoviePopularity(), 1); // never below 1
     EXPECT_EQ(st(5).getMoviePopularity(), 0); // no movie
+    const auto draws = g().rng.draws();       // and no movie means no demand and no roll
+    EXPECT_EQ(mm().getDemand(5), 0);
+    EXPECT_EQ(mm().getDemand(0), 0);
+    EXPECT_EQ(mm().getDemand(-2), 0);
+    EXPECT_EQ(g().rng.draws(), draws);
+    EXPECT_THROW(mm().getDemand(9), GameError);
 }
 
 TEST_F(Shows, MatineeShowsPayTheMatineePriceOthersRollSeniorOrStandardForTheWholeShow) {
@@ -43,15 +49,6 @@ TEST_F(Shows, MatineeShowsPayTheMatineePriceOthersRollSeniorOrStandardForTheWhol
     g().rng.force({seniorRoll, 0.15});
     EXPECT_EQ(st(3).getMyPrice(), 4); // roll 15: senior
     EXPECT_EQ(st(3).getMyPrice(), 6); // roll 16: standard
-}
-
-TEST_F(Shows, NoMovieMeansNoDemandAndNoRoll) {
-    const auto draws = g().rng.draws();
-    EXPECT_EQ(mm().getDemand(3), 0);
-    EXPECT_EQ(mm().getDemand(0), 0);
-    EXPECT_EQ(mm().getDemand(-2), 0);
-    EXPECT_EQ(g().rng.draws(), draws);
-    EXPECT_THROW(mm().getDemand(9), GameError);
 }
 
 TEST_F(Shows, DemandGathersItsTermsInOrderAndDuplicatesCountEveryShowtimeUpToEight) {
