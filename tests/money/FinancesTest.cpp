@@ -35,7 +35,7 @@ TEST_F(FinancesFixture, SpendRefusesWhenLessThanOneWouldRemain) {
     EXPECT_EQ(f().funds, 10.5);
 }
 
-TEST_F(FinancesFixture, DepartmentWords) {
+TEST_F(FinancesFixture, DepartmentWordsAndHistFunds) {
     f().setFunds(10000);
     f().spend(1, "ARCADES");
     f().spend(2, "arcade"); // no department, but counted in the total
@@ -59,9 +59,7 @@ TEST_F(FinancesFixture, DepartmentWords) {
     EXPECT_EQ(f().totalincome, 1111);
     EXPECT_EQ(f().funds, 10000 - 127 + 1111);
     EXPECT_EQ(f().getProfit(), "$984");
-}
-
-TEST_F(FinancesFixture, HistFundsAndItsBounds) {
+    // The month's balance is kept in histfunds, by month.
     f().setFunds(7);
     f().financesNextMonth(1);
     f().setFunds(8);

@@ -38,16 +38,14 @@ TEST_F(LoanFixture, TheTotalIsMadeBeforeThePaymentsAreLimited) {
     EXPECT_THROW(offer("1000", "0"), GameError); // no payments at all: a division by zero
 }
 
-TEST_F(LoanFixture, ThePaymentsBoxIsReadOnlyOnEnterOrLeaving) {
+TEST_F(LoanFixture, ThePaymentsBoxIsReadOnlyOnEnterOrLeavingTheAmountCutAtTheMaximum) {
     offer("10000", "10");
     loans().typePayPlan("20");
     loans().payPlanKeyPress('2'); // other keys do nothing
     EXPECT_EQ(offered(), Figures({2, 10000, 10, 12000, 1200}));
     loans().payPlanLostFocus();
     EXPECT_EQ(offered(), Figures({2, 10000, 20, 14000, 700}));
-}
-
-TEST_F(LoanFixture, AnAmountAboveTheMaximumIsCutAndWorkedOutAgain) {
+    // An amount above the maximum is cut, and the offer worked out again.
     loans().typePayPlan("10");
     loans().typeAmount("70000"); // the maximum at score 50 is 50000
     EXPECT_EQ(loans().amountText, "$50,000");

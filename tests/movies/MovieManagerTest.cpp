@@ -73,7 +73,7 @@ TEST_F(Booker, ReleaseCountsEveryDrawAndOffersWhatTheFundsCanPayExactly) {
     EXPECT_EQ(offered(), Titles{"Delta"});
 }
 
-TEST_F(Booker, ReleaseTurnsAwayRepeatsAndTitlesAlreadyOnOfferAndLastWeeksOfferIsGone) {
+TEST_F(Booker, ReleaseTurnsAwayRepeatsAndTitlesOnOfferAndDrawsMinUpToShortOfMinPlusMax) {
     setUpWith("Alpha\nBeta\nALPHA\nDelta\n");
     pops({50, 50, 50, 50}); // ties keep the order of the draws
     offer({1, 1, 3, 2});
@@ -81,9 +81,7 @@ TEST_F(Booker, ReleaseTurnsAwayRepeatsAndTitlesAlreadyOnOfferAndLastWeeksOfferIs
     EXPECT_EQ(offered(), Titles({"Alpha", "Beta"}));
     offer({4});
     EXPECT_EQ(offered(), Titles{"Delta"});
-}
-
-TEST_F(Booker, ReleaseDrawsFromMinUpToJustShortOfMinPlusMax) {
+    // The count runs from the minimum up to just short of the minimum plus the maximum.
     math().movieminreleases = 3;
     math().moviemaxreleases = 5;
     g().rng.force(0.999); // Int(4.995 + 3) = 7

@@ -23,11 +23,8 @@ struct Texts : MovieFixture {
 TEST_F(Texts, OwnListCutsLongTitlesAndShowsCents) {
     own({1, 2, 3});
     mm().myMovieAt(1).setMyPopularity(45); // the list shows whatever the price is now
-    const auto lines = myMovieLines(mm());
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[0], "Short $4,500");
-    EXPECT_EQ(lines[1], "Exactly Thirty Characters Long $2,000");
-    EXPECT_EQ(lines[2], "Thirty-One Characters Lon... $3,000");
+    EXPECT_EQ(myMovieLines(mm()), Titles({"Short $4,500", "Exactly Thirty Characters Long $2,000",
+                                          "Thirty-One Characters Lon... $3,000"}));
     math().inflation = 0.0333;
     mm().nextYearMovies();
     EXPECT_EQ(myMovieLines(mm())[0], "Short $4,501.50");

@@ -42,15 +42,6 @@ TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtimeAndNoMovieMeansNoDemand) {
     EXPECT_THROW(mm().getDemand(9), GameError);
 }
 
-TEST_F(Shows, MatineeShowsPayTheMatineePriceOthersRollSeniorOrStandardForTheWholeShow) {
-    const auto draws = g().rng.draws();
-    EXPECT_EQ(st(1).getMyPrice(), 4.5);
-    EXPECT_EQ(g().rng.draws(), draws); // no roll
-    g().rng.force({seniorRoll, 0.15});
-    EXPECT_EQ(st(3).getMyPrice(), 4); // roll 15: senior
-    EXPECT_EQ(st(3).getMyPrice(), 6); // roll 16: standard
-}
-
 TEST_F(Shows, DemandGathersItsTermsInOrderAndDuplicatesCountEveryShowtimeUpToEight) {
     math().showtimes = 6;
     g().rating.currentRating = 40;
@@ -128,7 +119,13 @@ TEST_F(Shows, ASecondRunStartsTheShowtimesFiguresAfresh) {
     EXPECT_THROW(st(5).doBusiness(g().building.getSeating()), GameError);
 }
 
-TEST_F(Shows, TogglingMatineeTellsTheLogOtherValuesAreOnlyStored) {
+TEST_F(Shows, MatineePricesWithNoRollOthersRollOnceAShowTogglingTellsTheLog) {
+    const auto draws = g().rng.draws();
+    EXPECT_EQ(st(1).getMyPrice(), 4.5);
+    EXPECT_EQ(g().rng.draws(), draws); // no roll
+    g().rng.force({seniorRoll, 0.15});
+    EXPECT_EQ(st(3).getMyPrice(), 4); // roll 15: senior
+    EXPECT_EQ(st(3).getMyPrice(), 6); // roll 16: standard
     st(1).toggleMatinee();
     EXPECT_FALSE(st(1).isMatinee());
     EXPECT_EQ(logged("10 AM is now at standard prices"), 1);
