@@ -150,7 +150,7 @@ TEST_F(GraphFixture, GridStandsWhereTheLabelsStand) {
     EXPECT_EQ(g().pointX[3], 1740);
 }
 
-TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBefore) {
+TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBeforeAndItsBoxShowsTheStoredBalance) {
     draw(7, 3000, {{0, 1000}, {3, 5000}, {6, 2500}});
     const auto& lines = g().lines;
     ASSERT_EQ(lines.size(), 10u + 12u + 12u * 2u + 11u);
@@ -166,9 +166,7 @@ TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBefore) {
     // A redraw starts from a clear picture.
     g().drawGraph();
     EXPECT_EQ(g().lines.size(), lines.size());
-}
-
-TEST_F(GraphFixture, MonthBoxShowsTheStoredBalanceEvenForTheCurrentMonth) {
+    // The month box shows the stored balance, even for the current month.
     draw(4, 99999, {{4, 1234.5}, {2, 8000}});
     g().showMonthFunds(11); // May: the balance of last May, not the running funds
     g().showMonthFunds(9);

@@ -55,19 +55,7 @@ TEST_F(LoanFixture, ThePaymentsBoxIsReadOnlyOnEnterOrLeavingTheAmountCutAtTheMax
     EXPECT_EQ(loans().offerAmount, 50000);
 }
 
-TEST_F(LoanFixture, WithNoCreditThereIsNoLoan) {
-    loans().creditScore = 0;
-    money().setFunds(500);
-    const auto linesBefore = game.screen.lines.size();
-    take("5000", "10");
-    EXPECT_EQ(loans().amountText, "$0");
-    EXPECT_EQ(loans().offerAmount, 0);
-    EXPECT_EQ(loans().loanAmount, 0);
-    EXPECT_EQ(money().funds, 500);
-    EXPECT_EQ(game.screen.lines.size(), linesBefore); // ends silently
-}
-
-TEST_F(LoanFixture, TheOfferRateIsRoundedHalfToEvenTheLoanRateIsNot) {
+TEST_F(LoanFixture, TheOfferRateIsRoundedHalfToEvenTheLoanRateIsNotNoCreditNoLoan) {
     game->math.loanir = 0.005;
     loans().creditScore = 75; // 0.125
     EXPECT_EQ(loans().getOfferRate(), 0.12);
@@ -78,6 +66,16 @@ TEST_F(LoanFixture, TheOfferRateIsRoundedHalfToEvenTheLoanRateIsNot) {
     EXPECT_DOUBLE_EQ(loans().getOfferRate(), 2.67);
     EXPECT_DOUBLE_EQ(loans().calcInterestRate(), 66.665 * 0.04);
     EXPECT_DOUBLE_EQ(loans().interestRate, 66.665 * 0.04);
+    // With no credit there is no loan.
+    loans().creditScore = 0;
+    money().setFunds(500);
+    const auto linesBefore = game.screen.lines.size();
+    take("5000", "10");
+    EXPECT_EQ(loans().amountText, "$0");
+    EXPECT_EQ(loans().offerAmount, 0);
+    EXPECT_EQ(loans().loanAmount, 0);
+    EXPECT_EQ(money().funds, 500);
+    EXPECT_EQ(game.screen.lines.size(), linesBefore); // ends silently
 }
 
 TEST_F(LoanFixture, AGoalsLoanIsCutByTheOfferAsIfTyped) {

@@ -211,24 +211,7 @@ TEST_F(Booker, AssigningOverwritesAndStoppingMarksTheMovieNotRunningEvenIfItStil
     EXPECT_FALSE(mm().isShowtimeChecked(3));
 }
 
-TEST_F(Booker, AssigningTheSelectedLineOrAllShowtimes) {
-    own({1, 2});
-    mm().selectMyMovie(0);
-    mm().assignOnly(5);
-    mm().selectMyMovie(-1);
-    mm().assignOnly(6); // no line selected: nothing but the boxes cleared
-    EXPECT_EQ(booked(), Ints({0, 0, 0, 0, 1, 0, 0, 0}));
-    EXPECT_FALSE(mm().isShowtimeChecked(6));
-    mm().checkAllShowtimes(true);
-    EXPECT_TRUE(mm().allShowtimesChecked());
-    mm().assignShowtimes(2);
-    EXPECT_EQ(booked(), Ints(8, 2));
-    for (int s = 1; s <= 8; ++s)
-        EXPECT_FALSE(mm().isShowtimeChecked(s));
-    EXPECT_FALSE(mm().allShowtimesChecked());
-}
-
-TEST_F(Booker, NewGameShowtimesAndTicketPricesZeroToTwo) {
+TEST_F(Booker, NewGameShowtimesAndTicketPricesThenAssigningTheSelectedLineOrAllShowtimes) {
     EXPECT_EQ(booked(), Ints(8, 0));
     for (int s = 1; s <= 8; ++s) {
         const showtime& st = mm().showtimeAt(s);
@@ -245,6 +228,21 @@ TEST_F(Booker, NewGameShowtimesAndTicketPricesZeroToTwo) {
     EXPECT_EQ(mm().getTicketPrice(3), 0);
     EXPECT_EQ(mm().getTicketPrice(-1), 0);
     EXPECT_EQ(mm().getTicketPrice(0), 6);
+    // Assigning the selected line or all showtimes.
+    own({1, 2});
+    mm().selectMyMovie(0);
+    mm().assignOnly(5);
+    mm().selectMyMovie(-1);
+    mm().assignOnly(6); // no line selected: nothing but the boxes cleared
+    EXPECT_EQ(booked(), Ints({0, 0, 0, 0, 1, 0, 0, 0}));
+    EXPECT_FALSE(mm().isShowtimeChecked(6));
+    mm().checkAllShowtimes(true);
+    EXPECT_TRUE(mm().allShowtimesChecked());
+    mm().assignShowtimes(2);
+    EXPECT_EQ(booked(), Ints(8, 2));
+    for (int s = 1; s <= 8; ++s)
+        EXPECT_FALSE(mm().isShowtimeChecked(s));
+    EXPECT_FALSE(mm().allShowtimesChecked());
 }
 
 // Showtimes beyond `showtimes` are never set up: no name, yet they play. They save their own
