@@ -24,7 +24,7 @@ struct MovieUnit : MovieFixture {
 
 } // namespace
 
-TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToJustShortOfMinPlusMax) {
+TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToShortOfMinPlusMaxPriceFollowsPopularity) {
     g().rng.force({0.0, 0.999});
     m().initalize(3, "Gamma");
     EXPECT_EQ(m().getClassic(), 5);
@@ -32,9 +32,7 @@ TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToJustShortOfMinPlusMax) {
     EXPECT_EQ(m().getClassic(), 14); // Int(10 * 0.999 + 5): above movieclassicmax
     EXPECT_EQ(m().getMyNum(), 3);
     EXPECT_EQ(m().getMyTitle(), "Gamma");
-}
-
-TEST_F(MovieUnit, PriceFollowsPopularityFlooredAndCapped) {
+    // The price follows popularity, floored and capped.
     m().setMyPopularity(57);
     EXPECT_EQ(m().getMyPrice(), 5700);
     EXPECT_THROW(m().setMyPopularity(328), GameError); // cannot be priced in 16 bits

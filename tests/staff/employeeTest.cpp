@@ -59,16 +59,6 @@ TEST_F(EmployeeTest, PayGoesUnderLaborAndABouncedPaycheckCountsOnlyOnTheNextDay)
     EXPECT_EQ(emp(1).name, "Bob Brown");
 }
 
-TEST_F(EmployeeTest, AFallBelowZeroMakesContentButAFallToExactlyZeroKeepsTheReason) {
-    setStaff({{"Ann Able", 1, 5, 1, 10, 2}, {"Bob Brown", 2, 5, 2, 10, 1}});
-    emp(1).angerreason = "Over Qualified";
-    emp(2).angerreason = "Over Qualified";
-    emp(1).nextDay();
-    emp(2).nextDay();
-    EXPECT_EQ(std::tie(emp(1).anger, emp(1).angerreason), std::make_tuple(0, "Over Qualified"));
-    EXPECT_EQ(std::tie(emp(2).anger, emp(2).angerreason), std::make_tuple(0, "Content"));
-}
-
 TEST_F(EmployeeTest, ProbationMeansNoRollsAtAllThenWorkRatioAndPatienceDecideTheNoWorkRoll) {
     g.math.empprobation = 3;
     g.math.empoverqualifiedquitchance = 0;
@@ -128,9 +118,12 @@ TEST_F(EmployeeTest, LearningTakesThreeDrawsAndAJobAboveTheLevelTeachesFaster) {
 
 // ---------------------------------------------------------------- sickness and pay
 
-TEST_F(EmployeeTest, AttendanceRoundsHalfToEven) {
+TEST_F(EmployeeTest, AttendanceRoundsHalfToEvenAndAngerFallsToContentOnlyBelowZero) {
     g.math.emprelchance = 12.5;
-    setStaff({{"Ann Able", 1, 5, 1, 5}, {"Bob Brown", 1, 5, 0, 3}});
+    setStaff({{"Ann Able", 1, 5, 1, 5},
+              {"Bob Brown", 1, 5, 0, 3},
+              {"Cy Cole", 1, 5, 1, 10, 2},
+              {"Dee Dunn", 2, 5, 2, 10, 1}});
     // 5 * 12.5 = 62.5 rounds to 62: a roll of 63 is sick, 62 is not.
     g.rng.force({roll(62), roll(63)});
     EXPECT_FALSE(emp(1).amIsick());
@@ -143,6 +136,13 @@ TEST_F(EmployeeTest, AttendanceRoundsHalfToEven) {
     EXPECT_EQ(emp(2).sickdays, 1);
     EXPECT_EQ(logged("Ann Able has called in sick today."), 1);
     EXPECT_EQ(logged("Bob Brown has called in sick today."), 0); // slot 3: once a day
+    // Anger falling below 0 makes content; a fall to exactly 0 keeps the reason.
+    emp(3).angerreason = "Over Qualified";
+    emp(4).angerreason = "Over Qualified";
+    emp(3).nextDay();
+    emp(4).nextDay();
+    EXPECT_EQ(std::tie(emp(3).anger, emp(3).angerreason), std::make_tuple(0, "Over Qualified"));
+    EXPECT_EQ(std::tie(emp(4).anger, emp(4).angerreason), std::make_tuple(0, "Content"));
 }
 
 // ---------------------------------------------------------------- texts and face
