@@ -73,11 +73,9 @@ TEST_F(GraphFixture, ScaleAndMarksFollowTheHistoryAndTheFunds) {
     for (const ScaleCase& c : scaleCases) {
         SCOPED_TRACE(c.name);
         draw(c.month, c.funds, c.history);
-        EXPECT_EQ(g().graphHigh, c.high);
-        EXPECT_EQ(g().graphLow, c.low);
-        EXPECT_EQ(g().pointY[11], c.y11);
-        EXPECT_EQ(g().pointY[10], c.y10);
-        EXPECT_EQ(g().pointY[0], c.y0);
+        EXPECT_EQ(std::make_tuple(g().graphHigh, g().graphLow, g().pointY[11], g().pointY[10],
+                                  g().pointY[0]),
+                  std::make_tuple(c.high, c.low, c.y11, c.y10, c.y0));
         const GraphTexts t = graphTexts(g());
         EXPECT_EQ(t.high, formatMoney(c.high));
         EXPECT_EQ(t.low, formatMoney(c.low));

@@ -20,7 +20,7 @@ struct Texts : MovieFixture {
 
 } // namespace
 
-TEST_F(Texts, OwnListCutsLongTitlesAndShowsCents) {
+TEST_F(Texts, OwnListCutsLongTitlesAndShowsCentsAdsGridRowsAndTotals) {
     own({1, 2, 3});
     mm().myMovieAt(1).setMyPopularity(45); // the list shows whatever the price is now
     EXPECT_EQ(myMovieLines(mm()), Titles({"Short $4,500", "Exactly Thirty Characters Long $2,000",
@@ -28,9 +28,7 @@ TEST_F(Texts, OwnListCutsLongTitlesAndShowsCents) {
     math().inflation = 0.0333;
     mm().nextYearMovies();
     EXPECT_EQ(myMovieLines(mm())[0], "Short $4,501.50");
-}
-
-TEST_F(Texts, AdsGridRowsAndTotals) {
+    // The ads grid: a row a showtime, then the totals.
     mm().setShowtimeAds(2, 3);
     mm().setShowtimeAds(7, 1);
     const GridText grid = adsGrid(mm());
@@ -39,17 +37,14 @@ TEST_F(Texts, AdsGridRowsAndTotals) {
     EXPECT_EQ(grid.rows[8], (std::vector<std::string>{"Totals", "4", "$60", "8"}));
 }
 
-TEST(TicketPriceText, DollarHashPointZeroZero) {
+TEST(TicketPriceAndAdsBoxes, DollarHashPointZeroZeroAndTheLeadingNumberOfTheText) {
     EXPECT_EQ(ticketPriceText(6), "$6.00");
     EXPECT_EQ(ticketPriceText(4.5), "$4.50");
     EXPECT_EQ(ticketPriceText(0.5), "$.50");
     EXPECT_EQ(ticketPriceText(0), "$.00");
     EXPECT_EQ(ticketPriceText(1234.5), "$1234.50");
     EXPECT_EQ(ticketPriceText(2.005), "$2.01");
-}
-
-// The ads box: empty text changes nothing, else the leading number floored to 16 bits.
-TEST(AdsAnswer, LeadingNumberOfTheText) {
+    // The ads box: empty text changes nothing, else the leading number floored to 16 bits.
     const struct {
         const char* text;
         std::optional<int> ads;
