@@ -73,11 +73,9 @@ TEST_F(GraphFixture, ScaleAndMarksFollowTheHistoryAndTheFunds) {
     for (const ScaleCase& c : scaleCases) {
         SCOPED_TRACE(c.name);
         draw(c.month, c.funds, c.history);
-        EXPECT_EQ(g().graphHigh, c.high);
-        EXPECT_EQ(g().graphLow, c.low);
-        EXPECT_EQ(g().pointY[11], c.y11);
-        EXPECT_EQ(g().pointY[10], c.y10);
-        EXPECT_EQ(g().pointY[0], c.y0);
+        EXPECT_EQ(std::make_tuple(g().graphHigh, g().graphLow, g().pointY[11], g().pointY[10],
+                                  g().pointY[0]),
+                  std::make_tuple(c.high, c.low, c.y11, c.y10, c.y0));
         const GraphTexts t = graphTexts(g());
         EXPECT_EQ(t.high, formatMoney(c.high));
         EXPECT_EQ(t.low, formatMoney(c.low));
@@ -90,24 +88,23 @@ TEST_F(GraphFixture, TenScaleLabelsWithTwoStepsAtTheTop) {
         double funds, history;
         std::array<std::string, 10> labels;
     };
+    // clang-format off
     const Case cases[] = {
         {11000, 1000, {"$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$7k", "$8k", "$9k", "$11k"}},
         // Only the low is floored: the steps keep their cents.
-        {225.75,
-         100.75,
-         {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175", "$187.50", "$200",
-          "$225"}},
-        {-2000,
-         8000,
-         {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k", "$8k"}},
+        {225.75, 100.75, {"$100", "$112.50", "$125", "$137.50", "$150", "$162.50", "$175",
+                          "$187.50", "$200", "$225"}},
+        {-2000, 8000, {"-$2,000", "-$1,000", "$0", "$1k", "$2k", "$3k", "$4k", "$5k", "$6k",
+                       "$8k"}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         draw(1, c.funds, {{0, c.history}});
         EXPECT_EQ(graphTexts(g()).scale, c.labels) << c.funds;
     }
 }
 
-TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonth) {
+TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonthAndBadMonthsOrOverflowsAreErrors) {
     draw(1, 100, {});
     const std::array<std::string, 12> names = {"Mar", "Apr", "May", "Jun", "Jul", "Aug",
                                                "Sep", "Oct", "Nov", "Dec", "Jan", "Feb"};
@@ -123,6 +120,12 @@ TEST_F(GraphFixture, MonthAxisEndsAtTheCurrentMonth) {
         setUp(month, 100, {});
         EXPECT_THROW(g().drawGraph(), GameError) << month;
     }
+    // Overflows are run-time errors too.
+    setUp(0, -1e308, {{0, 1e308}}); // the range leaves a double's range
+    EXPECT_THROW(g().drawGraph(), GameError);
+    setUp(1, 100, {{0, 200}});
+    g().picture.height = 40000; // an empty month's mark on the bottom edge: past 16 bits
+    EXPECT_THROW(g().drawGraph(), GameError);
 }
 
 TEST_F(GraphFixture, GridStandsWhereTheLabelsStand) {
@@ -145,7 +148,7 @@ TEST_F(GraphFixture, GridStandsWhereTheLabelsStand) {
     EXPECT_EQ(g().pointX[3], 1740);
 }
 
-TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBefore) {
+TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBeforeAndItsBoxShowsTheStoredBalance) {
     draw(7, 3000, {{0, 1000}, {3, 5000}, {6, 2500}});
     const auto& lines = g().lines;
     ASSERT_EQ(lines.size(), 10u + 12u + 12u * 2u + 11u);
@@ -161,9 +164,7 @@ TEST_F(GraphFixture, EachMonthAnXJoinedToTheMonthBefore) {
     // A redraw starts from a clear picture.
     g().drawGraph();
     EXPECT_EQ(g().lines.size(), lines.size());
-}
-
-TEST_F(GraphFixture, MonthBoxShowsTheStoredBalanceEvenForTheCurrentMonth) {
+    // The month box shows the stored balance, even for the current month.
     draw(4, 99999, {{4, 1234.5}, {2, 8000}});
     g().showMonthFunds(11); // May: the balance of last May, not the running funds
     g().showMonthFunds(9);
@@ -173,12 +174,4 @@ TEST_F(GraphFixture, MonthBoxShowsTheStoredBalanceEvenForTheCurrentMonth) {
                                             "Funds for the month of Apr: $0"};
     EXPECT_EQ(game.dialogs.asked, boxes);
     EXPECT_THROW(g().showMonthFunds(13), GameError);
-}
-
-TEST_F(GraphFixture, OverflowsAreRunTimeErrors) {
-    setUp(0, -1e308, {{0, 1e308}}); // the range leaves a double's range
-    EXPECT_THROW(g().drawGraph(), GameError);
-    setUp(1, 100, {{0, 200}});
-    g().picture.height = 40000; // an empty month's mark on the bottom edge: past 16 bits
-    EXPECT_THROW(g().drawGraph(), GameError);
 }

@@ -5,8 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace zorvane::test {
+
+using Figures = std::vector<double>;
 
 // A game with no files: the bank's keys are set here, as the shipped math file has them.
 struct LoanFixture : ::testing::Test {
@@ -31,6 +34,20 @@ struct LoanFixture : ::testing::Test {
     void take(const std::string& amount, const std::string& payments) {
         offer(amount, payments);
         loans().startLoan();
+    }
+
+    // The loan on the panel: amount, balance, rate, plan, payments remaining, monthly payment.
+    Figures loan() {
+        const loanManager& l = loans();
+        return {l.loanAmount,        l.balance,
+                l.interestRate,      static_cast<double>(l.payPlan),
+                l.paymentsRemaining, l.monthlyPayment};
+    }
+    // The offer: rate, amount, payments, total, monthly payment.
+    Figures offered() {
+        const loanManager& l = loans();
+        return {l.offerRate, l.offerAmount, static_cast<double>(l.offerPayments), l.offerTotal,
+                l.offerMonthly};
     }
 };
 

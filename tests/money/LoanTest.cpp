@@ -16,58 +16,51 @@ const std::string missWarning = "You couldn't come up with the money to pay this
                                 "payment!!!  This has seriously affected your credit score";
 const std::string missLoss = "You have missed too many loan payments!";
 
+// Reads a section body, as the container hands it over behind the open tag.
+void loadLoans(loanManager& loans, const std::string& body) {
+    std::istringstream in(body);
+    LineReader r(in, "test.zvn");
+    loans.loadLoans(r);
+}
+
 } // namespace
 
-TEST_F(LoanFixture, ALoanTakenPaysOutAsIncomeOfNoDepartment) {
-    money().setFunds(5000);
+TEST_F(LoanFixture, ALoanPaysOutAsIncomeOfNoDepartmentAndIsChargedMonthlyUntilPaidBack) {
+    money().setFunds(100000);
     take("10000", "10");
-    EXPECT_EQ(money().funds, 15000);
+    EXPECT_EQ(money().funds, 110000);
     EXPECT_EQ(money().totalincome, 10000);
     EXPECT_EQ(money().incdepmovie + money().incdeparcade + money().incdepconcessions, 0);
     EXPECT_EQ(game.screen.lines.back(), "Congrats, you're now in debt!");
-    EXPECT_EQ(loans().interestRate, 2);
-    EXPECT_EQ(loans().balance, 10000);
     EXPECT_EQ(loans().getBalance(), 10000);
-    EXPECT_EQ(loans().payPlan, 10);
-    EXPECT_EQ(loans().paymentsRemaining, 10);
-    EXPECT_EQ(loans().monthlyPayment, 1200);
-    EXPECT_EQ(loans().loanAmount, 10000);
     EXPECT_EQ(currentLoanTexts(loans()),
               (std::array<std::string, 5>{"$10,000", "2 %", "10", "$10,000", "$1,200"}));
-}
-
-TEST_F(LoanFixture, ChargedMonthlyRaisingTheScoreUntilTheBalanceIsZero) {
-    money().setFunds(100000);
-    take("10000", "10");
-    for (int month = 1; month <= 9; ++month) {
-        loans().loansNextMonth();
+    for (int month = 0; month <= 9; ++month) { // the balance is the principal only
+        EXPECT_EQ(loan(), Figures({10000, 10000 - 1000.0 * month, 2, 10, 10.0 - month, 1200}));
         EXPECT_EQ(money().funds, 110000 - 1200.0 * month);
         EXPECT_EQ(money().deploan, 1200.0 * month);
         EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50 + 0.5 * month); // 10000 * 0.00005
-        EXPECT_EQ(loans().balance, 10000 - 1000.0 * month);           // principal only
-        EXPECT_EQ(loans().paymentsRemaining, 10 - month);
+        loans().loansNextMonth();
     }
-    loans().loansNextMonth();
     EXPECT_EQ(money().deploan, 12000);
     EXPECT_EQ(loans().getCreditScore(), 55);
-    EXPECT_EQ(loans().loanAmount, 0);
-    EXPECT_EQ(loans().balance, 0);
-    EXPECT_EQ(loans().monthlyPayment, 0);
-    EXPECT_EQ(loans().paymentsRemaining, 0);
-    EXPECT_EQ(loans().interestRate, 2); // the rate and the plan stay behind
-    EXPECT_EQ(loans().payPlan, 10);
+    EXPECT_EQ(loan(), Figures({0, 0, 2, 10, 0, 0})); // the rate and the plan stay behind
     loans().loansNextMonth();
     EXPECT_EQ(money().deploan, 12000);
 }
 
-TEST_F(LoanFixture, OneLoanAtATime) {
+TEST_F(LoanFixture, OneLoanAtATimeAndANewOneRightAfterPayingOff) {
     money().setFunds(100);
     take("10000", "10");
     take("5000", "10");
     EXPECT_EQ(game.screen.lines.back(),
               "You cannot start a new loan until the existing debt is paid off!");
-    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200}));
     EXPECT_EQ(money().funds, 10100);
+    money().setFunds(100000);
+    loans().payOffLoan(); // the panel still shows the old loan: the balance is what counts
+    take("20000", "20");
+    EXPECT_EQ(loan(), Figures({20000, 20000, 2, 20, 20, 1400}));
 }
 
 TEST_F(LoanFixture, AThousandInThreeTakesAFourthFullPayment) {
@@ -102,17 +95,18 @@ TEST_F(LoanFixture, TooManyMissesInARowLoseTheGame) {
     loans().loansNextMonth();
     EXPECT_EQ(game.screen.count(missWarning), 2);
     EXPECT_EQ(game->loseShown, 0);
-    loans().loansNextMonth(); // loangrace 2: the third miss in a row loses
+    EXPECT_EQ(loan(), Figures({10000, 10000, 2, 10, 10, 1200})); // a miss moves nothing
+    loadLoans(loans(), "balance=10000\r\n</loans>\r\n");
+    EXPECT_EQ(loans().missedPayments, 2); // a load leaves the misses in a row as they were
+    loans().loansNextMonth();             // loangrace 2: the third miss in a row loses
     EXPECT_EQ(game.screen.lines.back(), missLoss);
     EXPECT_EQ(game->loseShown, 1);
     EXPECT_EQ(game.screen.loseShown, 1);
     EXPECT_EQ(loans().getCreditScore(), 44);
-    EXPECT_EQ(loans().balance, 10000); // a miss moves nothing of the loan
-    EXPECT_EQ(loans().paymentsRemaining, 10);
     EXPECT_EQ(money().deploan, 0);
 }
 
-TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgain) {
+TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgainAndNoGraceLosesOnTheFirstMiss) {
     take("10000", "10");
     for (int round = 0; round < 3; ++round) {
         money().setFunds(100);
@@ -125,69 +119,44 @@ TEST_F(LoanFixture, APaymentBetweenMissesStartsTheCountAgain) {
     }
     EXPECT_EQ(game->loseShown, 0);
     EXPECT_EQ(loans().paymentsRemaining, 7);
-}
-
-TEST_F(LoanFixture, NoGraceLosesOnTheFirstMiss) {
+    EXPECT_EQ(game.screen.count(missWarning), 6);
     game->math.loangrace = Int16{0};
-    take("10000", "10");
     money().setFunds(100);
     loans().loansNextMonth();
-    EXPECT_EQ(game.screen.count(missWarning), 0);
+    EXPECT_EQ(game.screen.count(missWarning), 6);
     EXPECT_EQ(game.screen.lines.back(), missLoss);
     EXPECT_EQ(game->loseShown, 1);
 }
 
 TEST_F(LoanFixture, PayingOffRaisesTheScoreByTheMonthlyPaymentOnly) {
     money().setFunds(100000);
+    const auto lines = game.screen.lines.size();
+    loans().payOffLoan(); // no loan: nothing, not even a line
+    EXPECT_EQ(game.screen.lines.size(), lines);
+    EXPECT_EQ(money().funds, 100000);
     take("10000", "10");
     loans().loansNextMonth();
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.5); // a payment: the whole amount counts
-    const double before = money().funds;
-    loans().payOffLoan(); // 9000 left plus one more payment's interest
-    EXPECT_EQ(money().funds, before - 9200);
+    money().setFunds(9200); // 9000 left plus one more payment's interest: less than 1 remains
+    loans().payOffLoan();
+    EXPECT_EQ(game.screen.lines.back(),
+              "You could not afford the final loan payment of $9,200, this includes the "
+              "remaining balance plus interest for one more payment.");
+    EXPECT_EQ(money().funds, 9200);
+    EXPECT_EQ(loan(), Figures({10000, 9000, 2, 10, 9, 1200}));
+    EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.5);
+    money().setFunds(9201);
+    loans().payOffLoan();
+    EXPECT_EQ(money().funds, 1);
     EXPECT_EQ(money().deploan, 1200 + 9200);
     EXPECT_DOUBLE_EQ(loans().getCreditScore(), 50.56); // pay-off: only the monthly payment
     EXPECT_EQ(game.screen.lines.back(), "You have cleared your debt with the bank!");
-    EXPECT_EQ(loans().balance, 0);
-    EXPECT_EQ(loans().paymentsRemaining, 0);
-    EXPECT_EQ(loans().loanAmount, 10000); // the panel shows the old loan
-    EXPECT_EQ(loans().monthlyPayment, 1200);
-    loans().loansNextMonth(); // a paid-off loan is not touched
-    EXPECT_EQ(money().deploan, 10400);
-    EXPECT_EQ(loans().loanAmount, 10000);
+    EXPECT_EQ(loan(), Figures({10000, 0, 2, 10, 0, 1200})); // the panel shows the old loan
+    loans().loansNextMonth();                               // a paid-off loan is not touched
+    EXPECT_EQ(loan(), Figures({10000, 0, 2, 10, 0, 1200}));
     loans().payOffLoan(); // the second press clears it
-    EXPECT_EQ(loans().loanAmount, 0);
-    EXPECT_EQ(loans().monthlyPayment, 0);
+    EXPECT_EQ(loan(), Figures({0, 0, 2, 10, 0, 0}));
     EXPECT_EQ(money().deploan, 10400);
-}
-
-TEST_F(LoanFixture, ANewLoanCanFollowAPaidOffOne) {
-    money().setFunds(100000);
-    take("10000", "10");
-    loans().payOffLoan();
-    take("20000", "20");
-    EXPECT_EQ(loans().loanAmount, 20000);
-    EXPECT_EQ(loans().balance, 20000);
-}
-
-TEST_F(LoanFixture, APayOffTheFundsCannotBearChangesNothing) {
-    take("10000", "10");
-    money().setFunds(10200); // the price is 10200: less than 1 would remain
-    loans().payOffLoan();
-    EXPECT_EQ(game.screen.lines.back(),
-              "You could not afford the final loan payment of $10,200, this includes the "
-              "remaining balance plus interest for one more payment.");
-    EXPECT_EQ(money().funds, 10200);
-    EXPECT_EQ(loans().balance, 10000);
-    EXPECT_EQ(loans().getCreditScore(), 50);
-}
-
-TEST_F(LoanFixture, PayOffWithoutALoanDoesNothing) {
-    money().setFunds(1000);
-    const auto lines = game.screen.lines.size();
-    loans().payOffLoan();
-    EXPECT_EQ(game.screen.lines.size(), lines);
-    EXPECT_EQ(money().funds, 1000);
 }
 
 TEST_F(LoanFixture, TheScoreStaysBetweenZeroAndTheMaximum) {
@@ -201,29 +170,6 @@ TEST_F(LoanFixture, TheScoreStaysBetweenZeroAndTheMaximum) {
 }
 
 // ---------------------------------------------------------------- saved games
-
-namespace {
-
-// Reads a section body, as the container hands it over behind the open tag.
-void loadLoans(loanManager& loans, const std::string& body) {
-    std::istringstream in(body);
-    LineReader r(in, "test.zvn");
-    loans.loadLoans(r);
-}
-
-} // namespace
-
-TEST_F(LoanFixture, ALoadLeavesTheMissesInARowAsTheyWere) {
-    take("10000", "10");
-    money().setFunds(100);
-    loans().loansNextMonth();
-    loans().loansNextMonth();
-    EXPECT_EQ(loans().missedPayments, 2);
-    loadLoans(loans(), "balance=10000\r\n</loans>\r\n");
-    EXPECT_EQ(loans().missedPayments, 2);
-    loans().loansNextMonth(); // so the next miss still loses
-    EXPECT_EQ(game->loseShown, 1);
-}
 
 TEST_F(LoanFixture, ALoadedNegativeBalanceIsReimbursedAtTheMonth) {
     money().setFunds(1000);

@@ -17,35 +17,24 @@ TEST(DemandFormula, Table) {
         double expected;
     };
     const std::vector<double> showtimeTerms = {0, -6, -4, -2, 0, 8, 12, 6, -4};
-    auto inputs = [](int popularity, double price, int showtime, int promo, int rating,
-                     int duplicates) {
-        DemandInputs in;
-        in.popularity = popularity;
-        in.price = price;
-        in.showtime = showtime;
-        in.promoPoints = promo;
-        in.rating = rating;
-        in.duplicates = duplicates;
-        return in;
-    };
     const Row rows[] = {
-        {"base plus popularity", 15, 0.6, 0, 0, 0, 0, inputs(50, 0, 4, 0, 0, 0), 45},
-        {"a hundred times the price", 80, 0, 0.06, 0, 0, 0, inputs(0, 6, 4, 0, 0, 0), 44},
-        {"this showtime's term", 50, 0, 0, 0, 0, 0, inputs(0, 0, 6, 0, 0, 0), 62},
-        {"showtime 1", 50, 0, 0, 0, 0, 0, inputs(0, 0, 1, 0, 0, 0), 44},
-        {"promotion and rating add", 10, 0, 0, 0.2, 0.3, 0, inputs(0, 0, 4, 40, 50, 0), 33},
-        {"unrounded", 15, 0.6, 0.06, 0, 0, 0, inputs(57, 4.5, 4, 0, 0, 0), 15 + 34.2 - 27},
-        {"clamped up to one", 0.5, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 1},
-        {"clamped from below zero", -40, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 1},
-        {"clamped down to a hundred", 100.5, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 100},
-        {"just under a hundred", 99.75, 0, 0, 0, 0, 0, inputs(0, 0, 4, 0, 0, 0), 99.75},
+        {"base plus popularity", 15, 0.6, 0, 0, 0, 0, {50, 0, 4, 0, 0, 0}, 45},
+        {"a hundred times the price", 80, 0, 0.06, 0, 0, 0, {0, 6, 4, 0, 0, 0}, 44},
+        {"this showtime's term", 50, 0, 0, 0, 0, 0, {0, 0, 6, 0, 0, 0}, 62},
+        {"showtime 1", 50, 0, 0, 0, 0, 0, {0, 0, 1, 0, 0, 0}, 44},
+        {"promotion and rating add", 10, 0, 0, 0.2, 0.3, 0, {0, 0, 4, 40, 50, 0}, 33},
+        {"unrounded", 15, 0.6, 0.06, 0, 0, 0, {57, 4.5, 4, 0, 0, 0}, 15 + 34.2 - 27},
+        {"clamped up to one", 0.5, 0, 0, 0, 0, 0, {0, 0, 4, 0, 0, 0}, 1},
+        {"clamped from below zero", -40, 0, 0, 0, 0, 0, {0, 0, 4, 0, 0, 0}, 1},
+        {"clamped down to a hundred", 100.5, 0, 0, 0, 0, 0, {0, 0, 4, 0, 0, 0}, 100},
+        {"just under a hundred", 99.75, 0, 0, 0, 0, 0, {0, 0, 4, 0, 0, 0}, 99.75},
         // cut = Int(8.55) = 8; two other showings take 16 (multiplying first: 17.1).
-        {"cut floored then multiplied", 57, 0, 0, 0, 0, 15, inputs(0, 0, 4, 0, 0, 2), 41},
-        {"no duplicates no cut", 57, 0, 0, 0, 0, 15, inputs(0, 0, 4, 0, 0, 0), 57},
-        {"cut on the whole demand", 30, 0, 0, 0, 1, 50, inputs(0, 0, 4, 0, 20, 1), 25},
+        {"cut floored then multiplied", 57, 0, 0, 0, 0, 15, {0, 0, 4, 0, 0, 2}, 41},
+        {"no duplicates no cut", 57, 0, 0, 0, 0, 15, {0, 0, 4, 0, 0, 0}, 57},
+        {"cut on the whole demand", 30, 0, 0, 0, 1, 50, {0, 0, 4, 0, 20, 1}, 25},
         // cut = Int(-3.5) = -4 (away from zero): -7 + 12 = 5.
-        {"negative cut raises", -7, 0, 0, 0, 0, 50, inputs(0, 0, 4, 0, 0, 3), 5},
-        {"negative cut then clamped", -7, 0, 0, 0, 0, 50, inputs(0, 0, 4, 0, 0, 1), 1},
+        {"negative cut raises", -7, 0, 0, 0, 0, 50, {0, 0, 4, 0, 0, 3}, 5},
+        {"negative cut then clamped", -7, 0, 0, 0, 0, 50, {0, 0, 4, 0, 0, 1}, 1},
     };
     for (const Row& r : rows) {
         MathVars m;
@@ -60,9 +49,9 @@ TEST(DemandFormula, Table) {
     }
     MathVars m;
     m.demandbase = 100;
-    EXPECT_THROW(demandPercent(m, inputs(0, 0, 9, 0, 0, 0)), GameError);
+    EXPECT_THROW(demandPercent(m, DemandInputs{0, 0, 9, 0, 0, 0}), GameError);
     m.demanddupe = 32000; // cut 32000: 7 of them do not fit 16 bits
-    EXPECT_THROW(demandPercent(m, inputs(0, 0, 4, 0, 0, 7)), GameError);
+    EXPECT_THROW(demandPercent(m, DemandInputs{0, 0, 4, 0, 0, 7}), GameError);
 }
 
 TEST(TicketSale, Table) {

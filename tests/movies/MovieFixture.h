@@ -12,6 +12,9 @@
 
 namespace zorvane::test {
 
+using Ints = std::vector<int>;
+using Titles = std::vector<std::string>;
+
 // A game whose movie side is set up from chosen math values and a six-title catalogue (no
 // start-up, so no other manager rolls or pays): funds of $100,000, eight showtimes, the first
 // two at matinee prices.
@@ -74,6 +77,31 @@ struct MovieFixture : ::testing::Test {
     }
 
     int logged(const std::string& line) const { return tg->screen.count(line); }
+
+    // Popularities of catalogue titles 1, 2, ... (their prices follow at $100 a point).
+    void pops(const std::vector<int>& values) {
+        for (std::size_t i = 0; i < values.size(); ++i)
+            mm().catalogueMovie(static_cast<int>(i) + 1).setMyPopularity(values[i]);
+    }
+    // The titles on offer and owned, in list order; the movie booked on showtimes 1 to 8.
+    std::vector<std::string> offered() {
+        std::vector<std::string> t;
+        for (int i = 1; i <= mm().buyMoviesCount(); ++i)
+            t.push_back(mm().buyMovieAt(i).getMyTitle());
+        return t;
+    }
+    std::vector<std::string> owned() {
+        std::vector<std::string> t;
+        for (int i = 1; i <= mm().myMoviesCount(); ++i)
+            t.push_back(mm().myMovieAt(i).getMyTitle());
+        return t;
+    }
+    std::vector<int> booked() {
+        std::vector<int> b;
+        for (int s = 1; s <= 8; ++s)
+            b.push_back(mm().showtimeAt(s).getMyMovie());
+        return b;
+    }
 };
 
 // Gives a Movie any state, as a saved game would: the lines of a block after its open tag.

@@ -24,7 +24,7 @@ struct MovieUnit : MovieFixture {
 
 } // namespace
 
-TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToJustShortOfMinPlusMax) {
+TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToShortOfMinPlusMaxPriceFollowsPopularity) {
     g().rng.force({0.0, 0.999});
     m().initalize(3, "Gamma");
     EXPECT_EQ(m().getClassic(), 5);
@@ -32,40 +32,17 @@ TEST_F(MovieUnit, ClassicLevelRunsFromMinUpToJustShortOfMinPlusMax) {
     EXPECT_EQ(m().getClassic(), 14); // Int(10 * 0.999 + 5): above movieclassicmax
     EXPECT_EQ(m().getMyNum(), 3);
     EXPECT_EQ(m().getMyTitle(), "Gamma");
-}
-
-TEST_F(MovieUnit, PriceFollowsPopularityFlooredAndCapped) {
+    // The price follows popularity, floored and capped.
     m().setMyPopularity(57);
     EXPECT_EQ(m().getMyPrice(), 5700);
+    EXPECT_THROW(m().setMyPopularity(328), GameError); // cannot be priced in 16 bits
     math().moviemaxpop = 90;
     m().setMyPopularity(44); // Int(4400 / 90) = 48, not 48.9
     EXPECT_EQ(m().getMyPrice(), 4800);
     m().setMyPopularity(95); // 105 percent: held at moviemaxprice
     EXPECT_EQ(m().getMyPrice(), 10000);
-}
-
-TEST_F(MovieUnit, PopularityAbove327CannotBePriced) {
-    EXPECT_THROW(m().setMyPopularity(328), GameError);
     math().moviemaxpop = 0;
     EXPECT_THROW(m().setMyPopularity(50), GameError);
-}
-
-TEST_F(MovieUnit, FirstDropComesOnTheSeventhDay) {
-    loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\nfirstPrice=6000\r\nfirstPrice=6000\r\n");
-    const auto draws = g().rng.draws();
-    days(6);
-    EXPECT_EQ(g().rng.draws(), draws); // no roll before the drop day
-    EXPECT_EQ(m().getMyPopularity(), 60);
-    EXPECT_EQ(m().getMyPrice(), 6000); // the price paid stands until the first drop
-    g().rng.force(0.5);                // a drop of Int(8 * 0.5 + 1) = 5
-    days(1);
-    EXPECT_EQ(m().getMyDays(), 7);
-    EXPECT_EQ(m().getMyPopularity(), 55);
-    // 55 * 100 / (100 - 1) percent of what was paid, floored.
-    EXPECT_EQ(m().getMyPrice(), 3333);
-    g().rng.force(0.0);
-    days(7);
-    EXPECT_EQ(m().getMyPopularity(), 54);
 }
 
 // A bought movie's days: what it holds after `days` with the drop every `dropDays` days.
@@ -78,6 +55,11 @@ struct DropCase {
 };
 
 const DropCase dropCases[] = {
+    // No roll before the drop day; the price paid stands until the first drop, then it is
+    // 55 * 100 / (100 - 1) percent of what was paid, floored.
+    {"NoDropBeforeTheSeventhDay", 60, 5, 6000, 7, {}, 6, 60, 6000},
+    {"FirstDropOnTheSeventhDay", 60, 5, 6000, 7, {0.5}, 7, 55, 3333},
+    {"NextDropSevenDaysLater", 60, 5, 6000, 7, {0.5, 0.0}, 14, 54, 3272},
     {"DailyDrops", 60, 5, 6000, 1, {0.0, 0.0}, 2, 58, -1},
     {"DropDaysBelowOneNeverDrop", 60, 5, 6000, 0, {}, 30, 60, 6000},
     {"AtTheClassicLevelNoDropNorRoll", 20, 20, 900, 1, {}, 3, 20, 900},
@@ -120,29 +102,18 @@ INSTANTIATE_TEST_SUITE_P(Days, DropTable, ::testing::ValuesIn(dropCases),
 TEST_F(MovieUnit, ProfitIsZeroUntilTheFirstTicket) {
     loadInto(m(), "Pop=60\r\nClassic=5\r\nPrice=6000\r\n");
     m().setFirstPrice(6000);
-    EXPECT_EQ(m().getMyProfit(), 0);
+    // Income, today's income, today's tickets, tickets sold, profit.
+    const auto figures = [&] {
+        return std::vector<double>{m().getMyIncome(), m().getTodaysIncome(),
+                                   static_cast<double>(m().getTodaysTickets()), m().getMySold(),
+                                   m().getMyProfit()};
+    };
+    EXPECT_EQ(figures(), std::vector<double>({0, 0, 0, 0, 0}));
     m().sellTickets(300, 50);
     m().sellTickets(120, 20);
-    EXPECT_EQ(m().getMyIncome(), 420);
-    EXPECT_EQ(m().getTodaysIncome(), 420);
-    EXPECT_EQ(m().getTodaysTickets(), 70);
-    EXPECT_EQ(m().getMySold(), 70);
-    EXPECT_EQ(m().getMyProfit(), 420 - 6000);
+    EXPECT_EQ(figures(), std::vector<double>({420, 420, 70, 70, 420 - 6000}));
     days(1);
-    EXPECT_EQ(m().getTodaysIncome(), 0);
-    EXPECT_EQ(m().getTodaysTickets(), 0);
-    EXPECT_EQ(m().getMyIncome(), 420);
-    EXPECT_EQ(m().getMySold(), 70);
-}
-
-TEST_F(MovieUnit, TodaysTicketsAre16Bit) {
-    m().sellTickets(0, 32767);
+    EXPECT_EQ(figures(), std::vector<double>({420, 0, 0, 70, 420 - 6000}));
+    m().sellTickets(0, 32767); // today's tickets are 16-bit
     EXPECT_THROW(m().sellTickets(0, 1), GameError);
-}
-
-TEST_F(MovieUnit, InflationRaisesThePriceNotWhatWasPaid) {
-    loadInto(m(), "Price=1000\r\nfirstPrice=800\r\n");
-    m().inflate();
-    EXPECT_DOUBLE_EQ(m().getMyPrice(), 1030);
-    EXPECT_EQ(m().getFirstPrice(), 800);
 }

@@ -14,27 +14,21 @@ struct Texts : MovieFixture {
                   "Exactly Thirty Characters Long\n"   // 30
                   "Thirty-One Characters Long Title\n" // 32
                   "Night of the Lepus\n");
-        for (int i = 1; i <= 4; ++i)
-            mm().catalogueMovie(i).setMyPopularity(10 * i);
+        pops({10, 20, 30, 40});
     }
 };
 
 } // namespace
 
-TEST_F(Texts, OwnListCutsLongTitlesAndShowsCents) {
+TEST_F(Texts, OwnListCutsLongTitlesAndShowsCentsAdsGridRowsAndTotals) {
     own({1, 2, 3});
     mm().myMovieAt(1).setMyPopularity(45); // the list shows whatever the price is now
-    const auto lines = myMovieLines(mm());
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[0], "Short $4,500");
-    EXPECT_EQ(lines[1], "Exactly Thirty Characters Long $2,000");
-    EXPECT_EQ(lines[2], "Thirty-One Characters Lon... $3,000");
+    EXPECT_EQ(myMovieLines(mm()), Titles({"Short $4,500", "Exactly Thirty Characters Long $2,000",
+                                          "Thirty-One Characters Lon... $3,000"}));
     math().inflation = 0.0333;
     mm().nextYearMovies();
     EXPECT_EQ(myMovieLines(mm())[0], "Short $4,501.50");
-}
-
-TEST_F(Texts, AdsGridRowsAndTotals) {
+    // The ads grid: a row a showtime, then the totals.
     mm().setShowtimeAds(2, 3);
     mm().setShowtimeAds(7, 1);
     const GridText grid = adsGrid(mm());
@@ -43,17 +37,14 @@ TEST_F(Texts, AdsGridRowsAndTotals) {
     EXPECT_EQ(grid.rows[8], (std::vector<std::string>{"Totals", "4", "$60", "8"}));
 }
 
-TEST(TicketPriceText, DollarHashPointZeroZero) {
+TEST(TicketPriceAndAdsBoxes, DollarHashPointZeroZeroAndTheLeadingNumberOfTheText) {
     EXPECT_EQ(ticketPriceText(6), "$6.00");
     EXPECT_EQ(ticketPriceText(4.5), "$4.50");
     EXPECT_EQ(ticketPriceText(0.5), "$.50");
     EXPECT_EQ(ticketPriceText(0), "$.00");
     EXPECT_EQ(ticketPriceText(1234.5), "$1234.50");
     EXPECT_EQ(ticketPriceText(2.005), "$2.01");
-}
-
-// The ads box: empty text changes nothing, else the leading number floored to 16 bits.
-TEST(AdsAnswer, LeadingNumberOfTheText) {
+    // The ads box: empty text changes nothing, else the leading number floored to 16 bits.
     const struct {
         const char* text;
         std::optional<int> ads;

@@ -24,7 +24,7 @@ struct Shows : MovieFixture {
 
 } // namespace
 
-TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtime) {
+TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtimeAndNoMovieMeansNoDemand) {
     book(1, {3, 4});
     mm().setShowtimeAds(3, 4);
     EXPECT_EQ(st(3).getMoviePopularity(), 42);
@@ -34,73 +34,75 @@ TEST_F(Shows, AdsCostPopularityOnlyAtTheirShowtime) {
     mm().setShowtimeAds(3, 5);
     EXPECT_EQ(st(3).getMoviePopularity(), 1); // never below 1
     EXPECT_EQ(st(5).getMoviePopularity(), 0); // no movie
-}
-
-TEST_F(Shows, MatineeShowsPayTheMatineePriceWithNoRoll) {
-    const auto draws = g().rng.draws();
-    EXPECT_EQ(st(1).getMyPrice(), 4.5);
-    EXPECT_EQ(g().rng.draws(), draws);
-}
-
-TEST_F(Shows, OtherShowsRollSeniorOrStandardForTheWholeShow) {
-    g().rng.force({seniorRoll, 0.15});
-    EXPECT_EQ(st(3).getMyPrice(), 4); // roll 15: senior
-    EXPECT_EQ(st(3).getMyPrice(), 6); // roll 16: standard
-}
-
-TEST_F(Shows, NoMovieMeansNoDemandAndNoRoll) {
-    const auto draws = g().rng.draws();
-    EXPECT_EQ(mm().getDemand(3), 0);
+    const auto draws = g().rng.draws();       // and no movie means no demand and no roll
+    EXPECT_EQ(mm().getDemand(5), 0);
     EXPECT_EQ(mm().getDemand(0), 0);
     EXPECT_EQ(mm().getDemand(-2), 0);
     EXPECT_EQ(g().rng.draws(), draws);
     EXPECT_THROW(mm().getDemand(9), GameError);
 }
 
-TEST_F(Shows, DemandGathersItsTermsInOrder) {
+TEST_F(Shows, DemandGathersItsTermsInOrderAndDuplicatesCountEveryShowtimeUpToEight) {
+    math().showtimes = 6;
     g().rating.currentRating = 40;
     book(1, {3});
-    g().rng.force(standardRoll);
+    g().rng.force({standardRoll, standardRoll});
     // 15 + 50 * 0.6 = 45; - 0.06 * 6 * 100 = 9; showtime 3: 7; rating 40 * 0.3: 19.
     EXPECT_NEAR(mm().getDemand(3), 19, 1e-9);
+    book(1, {7, 8}); // two others: 2 * Int(12 * 19 / 100) = 2 * 2 off
+    EXPECT_NEAR(mm().getDemand(3), 15, 1e-9);
     EXPECT_EQ(g().rng.forcedLeft(), 0u);
 }
 
-TEST_F(Shows, DuplicatesCountEveryShowtimeUpToEight) {
-    math().showtimes = 6;
-    g().rating.currentRating = 40;
-    book(1, {3, 7, 8});
-    g().rng.force(standardRoll);
-    // D = 19 before the cut; two others: 2 * Int(12 * 19 / 100) = 2 * 2.
-    EXPECT_NEAR(mm().getDemand(3), 15, 1e-9);
-}
+// One show today: tickets (demand times seats, floored, 1 percent at least), seniors split off
+// the price the show pays, the ads paid whatever the turnout under no department.
+struct ShowCase {
+    const char* name;
+    int showtime, ads, popularity;
+    double seniorPrice;
+    std::vector<double> rolls;
+    int tickets;
+    double income, adsPaid;
+};
 
-TEST_F(Shows, DemandReactsToTheRolledPrice) {
-    book(1, {3});
-    g().rng.force({seniorRoll, standardRoll});
-    const double senior = mm().getDemand(3);
-    const double standard = mm().getDemand(3);
-    EXPECT_NEAR(senior - standard, 0.06 * (6 - 4) * 100, 1e-9);
-}
-
-TEST_F(Shows, TodaysShowSellsDemandTimesSeatsAndPaysTheAds) {
-    book(1, {5});
-    mm().setShowtimeAds(5, 2);
-    const Finances before = g().finances;
-    g().rng.force(standardRoll);
-    st(5).doBusiness(g().building.getSeating());
+// clang-format off
+const ShowCase showCases[] = {
     // Popularity 50 - 4 = 46: 15 + 27.6 - 36 + 8 = 14.6 percent of 200 seats, floored: 29.
-    EXPECT_EQ(st(5).getTodaysTicketSales(), 29);
     // Seniors Int(29 * 15 / 100) = 4 at $4, the other 25 at $6.
-    EXPECT_DOUBLE_EQ(st(5).getTodaysIncome(), 166);
-    EXPECT_DOUBLE_EQ(g().finances.incdepmovie - before.incdepmovie, 166);
-    // The ads' $30 reach funds and the total income, under no department.
-    EXPECT_DOUBLE_EQ(g().finances.totalincome - before.totalincome, 196);
-    EXPECT_DOUBLE_EQ(g().finances.funds - before.funds, 196);
-    EXPECT_EQ(mm().myMovieAt(1).getMyIncome(), 166);
-    EXPECT_EQ(mm().myMovieAt(1).getTodaysTickets(), 29);
-    EXPECT_EQ(mm().myMovieAt(1).getMySold(), 29);
+    {"TodaysShow", 5, 2, 50, 4, {Shows::standardRoll}, 29, 25 * 6 + 4 * 4, 30},
+    // 15 + 30 - 27 - 6 = 12 percent: 24 tickets; 3 seniors at $4, 21 at $4.50.
+    {"MatineeSplitsSeniorsOff", 1, 0, 50, 4, {}, 24, 21 * 4.5 + 3 * 4, 0},
+    // Demand sees the senior price, $4.50: 15 + 30 - 27 - 2 = 16 percent, all at standard.
+    {"SeniorPriceEqualToMatineeNoSeniors", 3, 0, 50, 4.5, {Shows::seniorRoll}, 32, 32 * 6, 0},
+    {"AdsPayWhateverTheTurnout", 3, 5, 1, 4, {Shows::standardRoll}, 2, 2 * 6, 5 * 15},
+};
+// clang-format on
+
+struct ShowTable : Shows, ::testing::WithParamInterface<ShowCase> {};
+
+TEST_P(ShowTable, TicketsIncomeAndAds) {
+    const ShowCase& c = GetParam();
+    mm().myMovieAt(1).setMyPopularity(c.popularity);
+    mm().setTicketPrice(2, c.seniorPrice);
+    book(1, {c.showtime});
+    mm().setShowtimeAds(c.showtime, c.ads);
+    const Finances before = g().finances;
+    for (const double roll : c.rolls)
+        g().rng.force(roll);
+    st(c.showtime).doBusiness(g().building.getSeating());
+    EXPECT_EQ(g().rng.forcedLeft(), 0u);
+    EXPECT_EQ(st(c.showtime).getTodaysTicketSales(), c.tickets);
+    EXPECT_DOUBLE_EQ(st(c.showtime).getTodaysIncome(), c.income);
+    EXPECT_DOUBLE_EQ(g().finances.incdepmovie - before.incdepmovie, c.income);
+    EXPECT_DOUBLE_EQ(g().finances.totalincome - before.totalincome, c.income + c.adsPaid);
+    EXPECT_DOUBLE_EQ(g().finances.funds - before.funds, c.income + c.adsPaid);
+    EXPECT_EQ(mm().myMovieAt(1).getMyIncome(), c.income);
+    EXPECT_EQ(mm().myMovieAt(1).getTodaysTickets(), c.tickets);
+    EXPECT_EQ(mm().myMovieAt(1).getMySold(), c.tickets);
 }
+
+INSTANTIATE_TEST_SUITE_P(Shows, ShowTable, ::testing::ValuesIn(showCases),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(Shows, ASecondRunStartsTheShowtimesFiguresAfresh) {
     book(1, {5});
@@ -109,48 +111,21 @@ TEST_F(Shows, ASecondRunStartsTheShowtimesFiguresAfresh) {
     st(5).doBusiness(g().building.getSeating());
     EXPECT_EQ(st(5).getTodaysTicketSales(), 34);         // 15 + 30 - 36 + 8 = 17 percent of 200
     EXPECT_EQ(mm().myMovieAt(1).getTodaysTickets(), 68); // the movie's day adds up
-}
-
-TEST_F(Shows, MatineeShowSplitsSeniorsOffTheMatineePrice) {
-    book(1, {1});
-    st(1).doBusiness(g().building.getSeating());
-    // 15 + 30 - 27 - 6 = 12 percent: 24 tickets; 3 seniors at $4, 21 at $4.50.
-    EXPECT_EQ(st(1).getTodaysTicketSales(), 24);
-    EXPECT_DOUBLE_EQ(st(1).getTodaysIncome(), 21 * 4.5 + 3 * 4);
-}
-
-TEST_F(Shows, SeniorPriceEqualToMatineeMeansNoSeniorsYetDemandRollsSenior) {
-    mm().setTicketPrice(2, 4.5);
-    book(1, {3});
-    g().rng.force(seniorRoll); // demand sees the senior price, $4.50
-    st(3).doBusiness(g().building.getSeating());
-    // 15 + 30 - 27 - 2 = 16 percent: 32 tickets, all at the standard price.
-    EXPECT_EQ(st(3).getTodaysTicketSales(), 32);
-    EXPECT_DOUBLE_EQ(st(3).getTodaysIncome(), 32 * 6);
-}
-
-TEST_F(Shows, AdsPayWhateverTheTurnout) {
-    mm().myMovieAt(1).setMyPopularity(1);
-    book(1, {3});
-    mm().setShowtimeAds(3, 5);
-    const double before = g().finances.totalincome;
-    g().rng.force(standardRoll);
-    st(3).doBusiness(g().building.getSeating());
-    EXPECT_EQ(st(3).getTodaysTicketSales(), 2); // 1 percent at least
-    EXPECT_DOUBLE_EQ(g().finances.totalincome - before, 2 * 6 + 5 * 15);
-}
-
-TEST_F(Shows, NoSeatsNoTicketsAndTheCrowdCannotBeShared) {
     // A 1-percent house of fewer than 100 seats sells nothing, and the stand's share of an
     // audience of 0 is a division by zero.
-    g().building.seating = 50;
     mm().myMovieAt(1).setMyPopularity(1);
-    book(1, {3});
-    g().rng.force(standardRoll);
-    EXPECT_THROW(st(3).doBusiness(g().building.getSeating()), GameError);
+    g().building.seating = 50;
+    g().rng.force({standardRoll, standardRoll});
+    EXPECT_THROW(st(5).doBusiness(g().building.getSeating()), GameError);
 }
 
-TEST_F(Shows, TogglingMatineeTellsTheLog) {
+TEST_F(Shows, MatineePricesWithNoRollOthersRollOnceAShowTogglingTellsTheLog) {
+    const auto draws = g().rng.draws();
+    EXPECT_EQ(st(1).getMyPrice(), 4.5);
+    EXPECT_EQ(g().rng.draws(), draws); // no roll
+    g().rng.force({seniorRoll, 0.15});
+    EXPECT_EQ(st(3).getMyPrice(), 4); // roll 15: senior
+    EXPECT_EQ(st(3).getMyPrice(), 6); // roll 16: standard
     st(1).toggleMatinee();
     EXPECT_FALSE(st(1).isMatinee());
     EXPECT_EQ(logged("10 AM is now at standard prices"), 1);
@@ -158,12 +133,10 @@ TEST_F(Shows, TogglingMatineeTellsTheLog) {
     EXPECT_TRUE(st(1).isMatinee());
     EXPECT_EQ(logged("10 AM is now at matinee prices"), 1);
     EXPECT_TRUE(st(1).labelGrey());
-}
-
-TEST_F(Shows, OtherMatineeValuesAreOnlyStored) {
     const auto lines = tg->screen.lines.size();
     st(3).setMatinee(1);
     EXPECT_TRUE(st(3).isMatinee());
     EXPECT_EQ(tg->screen.lines.size(), lines);
     EXPECT_FALSE(st(3).labelGrey());
+    EXPECT_EQ(st(3).getMyPrice(), 4.5); // yet any value but 0 plays at matinee prices
 }

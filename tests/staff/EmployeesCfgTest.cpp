@@ -11,13 +11,6 @@ using namespace zorvane::test;
 
 namespace {
 
-CandidateLine read(const std::string& line, std::vector<std::string>* messages = nullptr) {
-    return readCandidateLine(line, [&](const std::string& m) {
-        if (messages)
-            messages->push_back(m);
-    });
-}
-
 const std::string tooMany(const std::string& name) {
     return "Error loading employee file, there are more fields for '" + name +
            "' than there should be, perhaps employees.cfg is for a newer version of zorvane?";
@@ -27,86 +20,65 @@ class CfgTest : public StaffTest {};
 
 } // namespace
 
-TEST(CandidateLineTest, FieldsAreSplitAtBarsAndTheNumbersFloored) {
-    const CandidateLine c = read("Mary Ann Lee|3.9|7|2.99");
-    EXPECT_EQ(c.name, "Mary Ann Lee");
-    EXPECT_EQ(c.exp, 3);
-    EXPECT_EQ(c.rel, 7);
-    EXPECT_EQ(c.amb, 2);
-    EXPECT_TRUE(c.usable());
+// Comment cut first, fields split at bars, the name as it stands, each number the leading
+// number of its field floored (no upper limit); usable only when named and all three >= 1.
+// Each character of a fifth or later field is one message, and the line still counts.
+TEST(CandidateLineTest, Table) {
+    struct Row {
+        const char* line;
+        const char* name;
+        int exp, rel, amb;
+        bool usable;
+        std::size_t messages = 0;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"Mary Ann Lee|3.9|7|2.99", "Mary Ann Lee", 3, 7, 2, true},
+        {"Tom Tait|3.9|5|4 # a comment | with | bars", "Tom Tait", 3, 5, 4, true},
+        {"# Tom Tait|3|5|4", "", 0, 0, 0, false},
+        {"", "", 0, 0, 0, false},
+        {" Tom Tait |3|5|4", " Tom Tait ", 3, 5, 4, true},
+        {"|3|5|4", "", 3, 5, 4, false},
+        {"Tom Tait|3|5|0", "Tom Tait", 3, 5, 0, false},
+        {"Tom Tait|0.9|5|4", "Tom Tait", 0, 5, 4, false},
+        {"Tom Tait|3|x|4", "Tom Tait", 3, 0, 4, false},
+        {"Tom Tait|3|5", "Tom Tait", 3, 5, 0, false},
+        {"Tom Tait|  4abc|5|4", "Tom Tait", 4, 5, 4, true},
+        {"Tom Tait|3|11|4", "Tom Tait", 3, 11, 4, true},
+        {"Tom Tait|3|5|4|", "Tom Tait", 3, 5, 4, true},
+        {"Tom Tait|3|5|4|ab|c", "Tom Tait", 3, 5, 4, true, 3},
+    };
+    // clang-format on
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.line);
+        std::vector<std::string> messages;
+        const CandidateLine c =
+            readCandidateLine(r.line, [&](const std::string& m) { messages.push_back(m); });
+        EXPECT_EQ(std::tie(c.name, c.exp, c.rel, c.amb),
+                  std::make_tuple(r.name, r.exp, r.rel, r.amb));
+        EXPECT_EQ(c.usable(), r.usable);
+        EXPECT_EQ(messages, std::vector<std::string>(r.messages, tooMany(r.name)));
+    }
+    EXPECT_THROW(readCandidateLine("Tom Tait|40000|5|4", [](const std::string&) {}), GameError);
 }
 
-TEST(CandidateLineTest, TheCommentIsCutFirst) {
-    const CandidateLine c = read("Tom Tait|3.9|5|4 # a comment | with | bars");
-    EXPECT_EQ(c.exp, 3);
-    EXPECT_EQ(c.amb, 4);
-    EXPECT_TRUE(c.usable());
-    EXPECT_FALSE(read("# Tom Tait|3|5|4").usable());
-    EXPECT_FALSE(read("").usable());
-}
-
-TEST(CandidateLineTest, BlanksInTheNameCountAsTheyStand) {
-    EXPECT_EQ(read(" Tom Tait |3|5|4").name, " Tom Tait ");
-    EXPECT_FALSE(read("|3|5|4").usable());
-}
-
-TEST(CandidateLineTest, ANumberBelowOneOrNoNumberMakesTheLineUnusable) {
-    EXPECT_FALSE(read("Tom Tait|3|5|0").usable());
-    EXPECT_FALSE(read("Tom Tait|0.9|5|4").usable());
-    EXPECT_FALSE(read("Tom Tait|3|x|4").usable());
-    EXPECT_FALSE(read("Tom Tait|3|5").usable());
-    EXPECT_TRUE(read("Tom Tait|  4abc|5|4").usable()); // blanks skipped, the leading number
-    EXPECT_EQ(read("Tom Tait|3|11|4").rel, 11);        // no upper limit here
-}
-
-TEST(CandidateLineTest, EachCharacterOfAnExtraFieldIsOneMessageAndTheLineStillCounts) {
-    std::vector<std::string> messages;
-    const CandidateLine c = read("Tom Tait|3|5|4|ab|c", &messages);
-    ASSERT_EQ(messages.size(), 3u);
-    EXPECT_EQ(messages[0], tooMany("Tom Tait"));
-    EXPECT_TRUE(c.usable());
-    EXPECT_EQ(c.amb, 4);
-    messages.clear();
-    read("Tom Tait|3|5|4|", &messages);
-    EXPECT_TRUE(messages.empty());
-}
-
-TEST(CandidateLineTest, ANumberPastSixteenBitsIsAnOverflow) {
-    EXPECT_THROW(read("Tom Tait|40000|5|4"), GameError);
-}
-
-TEST_F(CfgTest, TheLoaderKeepsUsableLinesAndLogsExtraFields) {
+TEST_F(CfgTest, TheLoaderKeepsUsableLinesLogsExtraFieldsAndFailsOnAMissingFileOrAnOverflow) {
     dir.write("employees.cfg", "# header\r\nTom Tait|3|5|4\r\n\r\nBad Line|3|5|0\r\n"
                                "Sue Sims|2|6|7|x\r\nTom Tait|1|1|1\r\n");
     staff.loadEmployeeDatabase();
-    ASSERT_EQ(staff.databaseCount(), 3);
-    EXPECT_EQ(staff.getDatabaseEntry(2).name, "Sue Sims");
+    EXPECT_EQ(each(staff.databaseCount(), [&](int i) { return staff.getDatabaseEntry(i).name; }),
+              Names({"Tom Tait", "Sue Sims", "Tom Tait"}));
     EXPECT_EQ(staff.getDatabaseEntry(2).amb, 7);
     EXPECT_EQ(staff.getDatabaseEntry(2).num, 0);
     EXPECT_GE(staff.getDatabaseEntry(2).myPicSkin, 1); // a face from init
     EXPECT_EQ(staff.getDatabaseEntry(2).trainingcost, 0);
-    ASSERT_EQ(log().size(), 1u);
-    EXPECT_EQ(log()[0], tooMany("Sue Sims"));
-}
-
-TEST_F(CfgTest, AMissingFileIsARunTimeError) {
+    EXPECT_EQ(log(), Names{tooMany("Sue Sims")});
     std::filesystem::remove(dir.file("employees.cfg"));
-    try {
-        staff.loadEmployeeDatabase();
-        FAIL() << "no file, no error";
-    } catch (const GameError& e) {
-        EXPECT_EQ(e.kind(), GameError::Kind::FileNotFound);
-    }
-}
-
-TEST_F(CfgTest, AnOverflowNamesTheFileAndLine) {
+    const auto load = [&] { staff.loadEmployeeDatabase(); };
+    EXPECT_EQ(thrown(load).value().kind(), GameError::Kind::FileNotFound);
     dir.write("employees.cfg", "Tom Tait|3|5|4\nSue Sims|99999|6|7\n");
-    try {
-        staff.loadEmployeeDatabase();
-        FAIL();
-    } catch (const GameError& e) {
-        EXPECT_NE(std::string(e.what()).find("employees.cfg line 2"), std::string::npos);
-    }
+    EXPECT_NE(std::string(thrown(load).value().what()).find("employees.cfg line 2"),
+              std::string::npos);
 }
 
 TEST_F(CfgTest, ThePoolStopsAt32767WithAMessageOnTheNextLine) {

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/GameError.h"
 #include "core/LineFile.h"
 #include "session/Game.h"
 #include "staff/employeeManager.h"
@@ -6,11 +7,25 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace zorvane::test {
+
+using Ints = std::vector<int>;
+using Names = std::vector<std::string>;
+
+// The error `f` throws (no value, a failed test, if it throws none).
+template <class F> std::optional<GameError> thrown(F f) {
+    try {
+        f();
+    } catch (const GameError& e) {
+        return e;
+    }
+    return std::nullopt;
+}
 
 // The staff's math, as each test knows it. Probation is long: no learning or anger unless a
 // test says so.
@@ -89,6 +104,22 @@ class StaffTest : public ::testing::Test {
 
     employee& emp(int n) { return staff.getEmployee(n); }
     int holder(int p) { return staff.getPosition(p).getMyEmployee(); }
+    // The holders of posts 1 to 7, and the staff's names and jobs in their order.
+    template <class F> static auto each(int n, F f) {
+        std::vector<decltype(f(1))> v;
+        for (int i = 1; i <= n; ++i)
+            v.push_back(f(i));
+        return v;
+    }
+    Ints holders() {
+        return each(7, [&](int p) { return holder(p); });
+    }
+    Names names() {
+        return each(staff.employeeCount(), [&](int i) { return emp(i).name; });
+    }
+    Ints jobs() {
+        return each(staff.employeeCount(), [&](int i) { return static_cast<int>(emp(i).job); });
+    }
     int logged(const std::string& line) { return tg.screen.count(line); }
     const std::vector<std::string>& log() { return tg.screen.lines; }
 };

@@ -15,7 +15,7 @@ class PositionTest : public StaffTest {};
 
 } // namespace
 
-TEST_F(PositionTest, AWageBelowTheMinimumIsRaisedToItWithAMessage) {
+TEST_F(PositionTest, AWageBelowTheMinimumIsRaisedToItWithAMessageAlsoAtStartUp) {
     position& post = staff.getPosition(3);
     post.setWage(5.14);
     EXPECT_EQ(post.getWage(), 5.15);
@@ -24,32 +24,26 @@ TEST_F(PositionTest, AWageBelowTheMinimumIsRaisedToItWithAMessage) {
     post.setWage(7);
     EXPECT_EQ(post.getWage(), 7);
     EXPECT_EQ(logged(clampLine), 1);
-}
-
-TEST_F(PositionTest, OpeningWagesBelowTheMinimumAreClampedAtStartUp) {
     g.math.empposition[1] = 4;
     g.math.empposition[2] = 3;
-    tg.screen.lines.clear();
     staff.positionsSetup();
-    EXPECT_EQ(logged(clampLine), 2);
+    EXPECT_EQ(logged(clampLine), 3);
     EXPECT_EQ(staff.getPosition(1).getWage(), 5.15);
     EXPECT_EQ(staff.getPosition(7).getWage(), 13);
     EXPECT_EQ(staff.getPosition(5).getMyNum(), 5);
-    ASSERT_EQ(staff.positionList().size(), 8u);
-    EXPECT_EQ(staff.positionList()[0], "0-None");
-    EXPECT_EQ(staff.positionList()[3], "3-Concessions Clerk");
+    EXPECT_EQ(staff.positionList(),
+              Names({"0-None", "1-Janitor", "2-Usher", "3-Concessions Clerk", "4-Ticket Seller",
+                     "5-Projectionist", "6-Assistant Manager", "7-Manager"}));
 }
 
-TEST_F(PositionTest, TheInputBoxAsksForTheWageOfThePost) {
+TEST_F(PositionTest, TheInputBoxAsksForTheWageOfThePostAndReadsItsLeadingNumber) {
     tg.dialogs.inputs.push_back("8.75");
     staff.getPosition(4).setWageInput();
     EXPECT_EQ(tg.dialogs.prompt, "Enter new wage for position of Ticket Seller");
     EXPECT_EQ(tg.dialogs.title, "Set position wage");
     EXPECT_EQ(tg.dialogs.defaultText, "7.25");
     EXPECT_EQ(staff.getPosition(4).getWage(), 8.75);
-}
-
-TEST_F(PositionTest, WhatThePlayerTypesIsReadAsItsLeadingNumber) {
+    // What the player types is read as its leading number.
     position& post = staff.getPosition(2);
     const auto enter = [&](const std::string& text) {
         tg.dialogs.inputs.push_back(text);
