@@ -1,5 +1,6 @@
 #include "Subsystems.h"
 
+#include "concessions/ConcessionTexts.h"
 #include "core/Text.h"
 
 namespace zorvane::sim {
@@ -26,11 +27,10 @@ void addConcessionCommands(CommandTable& t) {
                       const int item = itemArg(a);
                       c.game.concessions.setItemPrice(item, digitsValue(a.textFrom(1)));
                   }};
-    // The buy-per-month box takes the leading number, rounded half to even.
+    // The buy-per-month box, read as the stand screen reads it.
     t["stock"] = {2, -1, [](CommandContext& c, const Args& a) {
                       const int item = itemArg(a);
-                      c.game.concessions.setItemBuyQuant(item,
-                                                         toInt16(leadingNumber(a.textFrom(1))));
+                      c.game.concessions.setItemBuyQuant(item, concessionOrderOf(a.textFrom(1)));
                   }};
 }
 

@@ -2,7 +2,7 @@
 #include "support/TestSupport.h"
 
 #include <filesystem>
-#include <memory>
+#include <string>
 
 namespace zorvane::test {
 
@@ -11,27 +11,17 @@ inline void copySounds(const DataFolder& data) {
     std::filesystem::copy(std::filesystem::path(shippedData()) / "sounds", data.path() / "sounds");
 }
 
-// A game on a copy of the shipped data, sounds included, whose sound port records what would
-// be heard; the settings store can be filled before start-up.
-struct SoundGame {
+struct SoundFolder {
     DataFolder data;
-    RecordingScreen screen;
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    RecordingSound sound;
-    std::unique_ptr<Game> game;
+    SoundFolder() { copySounds(data); }
+};
 
-    SoundGame() { copySounds(data); }
+// A game on a copy of the shipped data, sounds included, whose sound port records what would
+// be heard; the settings store and the data can be changed before start-up.
+struct SoundGame : SoundFolder, TestGame {
+    SoundGame() : TestGame(data.path().string(), 1, "", true) {}
     // Start-up, then "Play !" on Free Play.
     Game& start() {
-        GameSetup setup;
-        setup.folder = data.path().string();
-        setup.seed = 1;
-        setup.screen = &screen;
-        setup.dialogs = &dialogs;
-        setup.settings = &settings;
-        setup.sound = &sound;
-        game = std::make_unique<Game>(std::move(setup));
         game->startup();
         game->startPlay(0);
         return *game;

@@ -65,7 +65,7 @@ int RecordingScreen::count(const std::string& line) const {
 
 std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
                                const std::string& arg, ScreenPort& screen, DialogPort& dialogs,
-                               SettingsPort& settings) {
+                               SettingsPort& settings, SoundPort* sound) {
     GameSetup setup;
     setup.folder = folder;
     setup.commandLine = arg;
@@ -74,6 +74,7 @@ std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
     setup.screen = &screen;
     setup.dialogs = &dialogs;
     setup.settings = &settings;
+    setup.sound = sound;
     return std::make_unique<Game>(std::move(setup));
 }
 
@@ -81,8 +82,9 @@ int RecordingScreen::refreshes(View v) const {
     return static_cast<int>(std::count(refreshed.begin(), refreshed.end(), v));
 }
 
-TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg)
-    : game(makeGame(folder, seed, arg, screen, dialogs, settings)) {}
+TestGame::TestGame(const std::string& folder, std::uint64_t seed, const std::string& arg,
+                   bool withSound)
+    : game(makeGame(folder, seed, arg, screen, dialogs, settings, withSound ? &sound : nullptr)) {}
 
 TestGame& TestGame::math(const std::string& entries) {
     const fs::path path = fs::path(game->folder()) / "test-overrides.mth";

@@ -99,7 +99,7 @@ struct RecordingDialogs : ScriptedDialogs {
 // one command-line argument.
 std::unique_ptr<Game> makeGame(const std::string& folder, std::uint64_t seed,
                                const std::string& arg, ScreenPort& screen, DialogPort& dialogs,
-                               SettingsPort& settings);
+                               SettingsPort& settings, SoundPort* sound = nullptr);
 
 // The one game of the tests. A test that needs no data files sets the math it depends on with
 // `math`, in math.txt's own lines (read by the game's math reader); entries may also be
@@ -108,10 +108,11 @@ struct TestGame {
     RecordingScreen screen;
     RecordingDialogs dialogs;
     MemorySettings settings;
+    RecordingSound sound; // heard only when the game is made `withSound`
     std::unique_ptr<Game> game;
 
     explicit TestGame(const std::string& folder, std::uint64_t seed = 1,
-                      const std::string& arg = "");
+                      const std::string& arg = "", bool withSound = false);
     TestGame& math(const std::string& entries);
     Game* operator->() { return game.get(); }
     Game& operator*() { return *game; }
