@@ -44,8 +44,20 @@ TEST(Numbers, LeadingNumberOfAText) {
                                       {"1e", 1},
                                       {"", 0},
                                       {"-", 0},
-                                      {" 7", 7}})
+                                      {" 7", 7},
+                                      {"1e300", 1e300},
+                                      {"1e-400", 0}})
         EXPECT_EQ(leadingNumber(text), value) << '"' << text << '"';
+    // Beyond a double's range a number is an overflow, not an infinity (which a saved game
+    // would write as "inf" and read back as 0).
+    EXPECT_THROW(leadingNumber(std::string(400, '9')), GameError);
+    try {
+        leadingNumber("1e400");
+        ADD_FAILURE() << "no overflow";
+    } catch (const GameError& e) {
+        EXPECT_EQ(e.kind(), GameError::Kind::Overflow);
+        EXPECT_NE(std::string(e.what()).find("1e400"), std::string::npos) << e.what();
+    }
 }
 
 TEST(Numbers, StrictNumberWantsTheWholeText) {

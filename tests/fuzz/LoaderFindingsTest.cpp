@@ -2,7 +2,6 @@
 // behaviour: a file that once hung, crashed or misread the game now ends as the game's own
 // run-time error with a message that names the problem, or reads as it should.
 #include "core/GameError.h"
-#include "core/Numbers.h"
 #include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
@@ -48,22 +47,6 @@ TEST(LoaderFindings, EmployeesCfgWithFewerThanTenNamesStopsTheFirstDayWithAMessa
             EXPECT_NE(message.find(c.message), std::string::npos) << message;
         }
     }
-}
-
-// A number beyond the range of a double read as an infinity, which the saved game then wrote
-// as "inf" and read back as 0. It is an overflow, as every other number too large for its
-// field.
-TEST(LoaderFindings, ANumberBeyondTheDoubleRangeIsAnOverflow) {
-    try {
-        leadingNumber("1e400");
-        FAIL() << "no error";
-    } catch (const GameError& e) {
-        EXPECT_EQ(e.kind(), GameError::Kind::Overflow);
-        EXPECT_NE(std::string(e.what()).find("1e400"), std::string::npos) << e.what();
-    }
-    EXPECT_THROW(leadingNumber(std::string(400, '9')), GameError);
-    EXPECT_DOUBLE_EQ(leadingNumber("1e300"), 1e300);
-    EXPECT_EQ(leadingNumber("1e-400"), 0.0);
 }
 
 // The load stops at the infinite figure. Once a too-large number became an overflow, the
