@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <sstream>
+#include <tuple>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -159,7 +160,7 @@ TEST_F(Room, InitArcadesReadsTheSettingAndReleases) {
     EXPECT_EQ(tg->settings.get("arcades", "autoRepair", ""), "0");
 }
 
-TEST_F(Room, BuyingMovesTheTitleIntoTheRoom) {
+TEST_F(Room, BuyingMovesTheTitleIntoTheRoomOrIsRefusedTheFullRoomFirst) {
     auto t = title(2, "Bravo", 50);
     am().buyGames.push_back(title(1, "Alpha", 30));
     am().buyGames.push_back(t);
@@ -176,19 +177,15 @@ TEST_F(Room, BuyingMovesTheTitleIntoTheRoom) {
     EXPECT_EQ(am().buyGameAt(1).getName(), "Alpha");
     EXPECT_TRUE(am().room.exists(1));
     EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::templateLeft);
-}
-
-TEST_F(Room, BuyingWithoutMoneyOrRoomIsRefusedTheFullRoomFirst) {
-    g().finances.setFunds(2000); // 2000 - 2000 leaves less than 1
-    am().buyGames.push_back(title(2, "Bravo", 50));
+    // Refused: without the money (1200 - 1200 leaves less than 1), then with the room full,
+    // which answers before the bad row is looked at.
+    g().finances.setFunds(1200);
     am().buyGame(1);
-    EXPECT_TRUE(logged("Couldn't afford to buy 'Bravo'"));
-    EXPECT_EQ(am().getMachineCount(), 0);
+    EXPECT_TRUE(logged("Couldn't afford to buy 'Alpha'"));
     g().math.arcademax = 1;
-    addMachine(title(1, "One", 10));
-    am().buyGame(2); // a bad row: the full room answers first
+    am().buyGame(2);
     EXPECT_TRUE(logged("You cannot fit any more machines into your arcade room!"));
-    EXPECT_EQ(g().finances.totalspent, 0);
+    EXPECT_EQ(g().finances.totalspent, 2000);
     EXPECT_EQ(am().buyGames.size(), 1u);
 }
 
@@ -214,13 +211,12 @@ TEST_F(Room, SellingClosesTheRoomUp) {
     EXPECT_EQ(&am().myGameAt(2), &three);
     EXPECT_EQ(three.getNum(), 2);
     EXPECT_FALSE(am().room.exists(3));
-    EXPECT_EQ(am().room.cabinet(2).left, cab3.left);
-    EXPECT_EQ(am().room.cabinet(2).top, cab3.top);
-    EXPECT_EQ(am().room.cabinet(2).picture, cab3.picture);
-    EXPECT_EQ(am().room.title(2).caption, "Three");
-    EXPECT_EQ(am().room.title(2).left, title3.left);
-    EXPECT_EQ(am().room.title(2).top, title3.top);
-    EXPECT_EQ(am().room.title(2).color, ArcadeRoom::titleBroken);
+    const ArcadeCabinet& cab2 = am().room.cabinet(2);
+    const ArcadeTitle& title2 = am().room.title(2);
+    EXPECT_EQ(std::tie(cab2.left, cab2.top, cab2.picture),
+              std::tie(cab3.left, cab3.top, cab3.picture));
+    EXPECT_EQ(std::tie(title2.caption, title2.left, title2.top, title2.color),
+              std::tuple("Three", title3.left, title3.top, ArcadeRoom::titleBroken));
     EXPECT_EQ(am().room.cabinet(1).left, ArcadeRoom::templateLeft + 100);
     // The sold object keeps all it has; its saved place is left as it was.
     EXPECT_EQ(two.MyCabTop, 0);

@@ -3,18 +3,17 @@
 #include "concessions/ConcessionTexts.h"
 #include "core/GameError.h"
 
+#include <tuple>
+
 using namespace zorvane;
 using namespace zorvane::test;
 
 TEST_F(StandFixture, InitTakesTheMathValuesAndTheFirstMonthIsBought) {
     const Concession& c = item(3);
-    EXPECT_EQ(c.name, "Hot Dog");
-    EXPECT_EQ(c.quality, 1);
-    EXPECT_EQ(c.price, 3);
-    EXPECT_EQ(c.cost, 0.7);
-    EXPECT_EQ(c.buypermonth, 10);
-    EXPECT_EQ(c.stock, 10); // the month step ran once at set-up
-    EXPECT_EQ(c.thismonthsales, 0);
+    // The stock: the month step ran once at set-up.
+    EXPECT_EQ(
+        std::tuple(c.name, c.quality, c.price, c.cost, c.buypermonth, c.stock, c.thismonthsales),
+        std::tuple("Hot Dog", 1, 3, 0.7, 10, 10, 0));
     EXPECT_EQ(c.qualityList, (std::vector<std::string>{"low 3", "mid 3", "high 3"}));
     // Five orders of 10 units at the base cost: no quality surcharge in the bill.
     EXPECT_DOUBLE_EQ(game->finances.depconcessions, 35);

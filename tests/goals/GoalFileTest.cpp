@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 using namespace zorvane;
 using namespace zorvane::test;
@@ -68,24 +69,19 @@ TEST_F(GoalFile, KeysAndValuesAreReadAsWrittenAbsentOnesStayEmpty) {
                           "</goal>\n"
                           "<goal>\nname=Sloppy\ntype=rating\nvalue=lots\ndeadline=soon\n</goal>\n");
     const goal& big = g.getGoal(1);
-    EXPECT_EQ(big.getName(), "Big = Money"); // split at the first "="
-    EXPECT_EQ(big.getType(), "funds");
-    EXPECT_EQ(big.getValue(), 1500.5);
-    EXPECT_EQ(big.getDeadline(), 2); // rounded half to even
-    EXPECT_EQ(big.getDesc(), "  Make it rain  ");
-    EXPECT_EQ(big.getDebt(), "$20,000"); // taken as it stands
-    EXPECT_EQ(big.getFunds(), "abc");
-    EXPECT_EQ(big.getCs(), "45.5");   // the leading number printed back
-    EXPECT_EQ(big.getPayplan(), "0"); // an empty value reads as 0
-    EXPECT_FALSE(big.getAchieved());
+    // The name split at the first "=", the deadline rounded half to even, debt and funds
+    // taken as they stand, the score's leading number printed back, an empty value as 0.
+    EXPECT_EQ(std::tuple(big.getName(), big.getType(), big.getValue(), big.getDeadline(),
+                         big.getDesc(), big.getDebt(), big.getFunds(), big.getCs(),
+                         big.getPayplan(), big.getAchieved()),
+              std::tuple("Big = Money", "funds", 1500.5, 2, "  Make it rain  ", "$20,000", "abc",
+                         "45.5", "0", false));
     // Absent keys stay empty, bad numbers read as 0: a mistyped deadline fails in the second
     // year.
     const goal& sloppy = g.getGoal(2);
-    EXPECT_EQ(sloppy.getValue(), 0);
-    EXPECT_EQ(sloppy.getDeadline(), 0);
-    for (const std::string& figure :
-         {sloppy.getCs(), sloppy.getPayplan(), sloppy.getDebt(), sloppy.getFunds()})
-        EXPECT_EQ(figure, "");
+    EXPECT_EQ(std::tuple(sloppy.getValue(), sloppy.getDeadline(), sloppy.getCs(),
+                         sloppy.getPayplan(), sloppy.getDebt(), sloppy.getFunds()),
+              std::tuple(0, 0, "", "", "", ""));
 }
 
 TEST_F(GoalFile, AMissingFileOrADeadlineBeyondSixteenBitsIsFatal) {

@@ -2,7 +2,6 @@
 // Goal menu.
 #include "core/GameError.h"
 #include "session/Game.h"
-#include "support/SimScenario.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -81,6 +80,18 @@ TEST_F(GoalPlay, AReachedGoalIsShownAndPlayGoesOnWithoutIt) {
     EXPECT_EQ(count(achievedLine), 1);
     EXPECT_EQ(count(failedLine), 0);
     EXPECT_EQ(game().goalShown, 1);
+    // No asks the quit question: Cancel there plays on, No ends the process.
+    setYear(0);
+    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
+    goals().selectGoal(1);
+    dialogs().answers = {Answer::No, Answer::Cancel};
+    goals().goalsNextDay();
+    EXPECT_EQ(dialogs().asked.back(), "Save your theater before quitting?");
+    EXPECT_TRUE(goals().selected().getAchieved());
+    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
+    goals().selectGoal(1);
+    dialogs().answers = {Answer::No, Answer::No};
+    EXPECT_THROW(goals().goalsNextDay(), ProcessEnded);
 }
 
 TEST_F(GoalPlay, TheGoalIsTestedBeforeTheDaysFundsTest) {
@@ -185,20 +196,6 @@ TEST_F(GoalPlay, ADeadlineFailsTheGoalIntoFreePlay) {
     EXPECT_EQ(count(failedLine), 1);
 }
 
-TEST_F(GoalPlay, SayingNoToPlayingOnAsksTheQuitQuestion) {
-    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
-    play();
-    dialogs().answers = {Answer::No, Answer::Cancel};
-    goals().goalsNextDay();
-    EXPECT_EQ(dialogs().asked.back(), "Save your theater before quitting?");
-    EXPECT_TRUE(goals().selected().getAchieved()); // Cancel there plays on
-
-    useGoals(goalBlock("type=funds\r\nvalue=1\r\ndeadline=3\r\n"));
-    goals().selectGoal(1);
-    dialogs().answers = {Answer::No, Answer::No};
-    EXPECT_THROW(goals().goalsNextDay(), ProcessEnded);
-}
-
 TEST_F(GoalPlay, StartingFundsOnlyWhenReallyGiven) {
     const double init = game().math.initfunds;
     const std::vector<std::pair<std::string, double>> cases = {
@@ -278,47 +275,14 @@ TEST_F(GoalPlay, SelectingAndStartingFollowTheList) {
     game().startPlay(-1); // "Play !" with no line picked keeps the goal in force
     EXPECT_EQ(goals().getSelected(), 2);
     EXPECT_EQ(game().finances.getFunds(), 5);
-}
-
-TEST_F(GoalPlay, TheGoalMenuShowsTheTitleThenTheDetails) {
+    // The Goal menu shows the title screen, then the details.
     useGoals(
         goalBlock("name=Shown\r\ntype=rating\r\nvalue=60\r\ndeadline=2\r\ndesc=Be loved.\r\n"));
-    play();
+    goals().selectGoal(1);
     goals().showGoalInfo();
     EXPECT_EQ(screen().titleShown, 1);
     EXPECT_EQ(dialogs().asked.back(),
               "Goal name: Shown\r\nType: rating\r\nValue: 60\r\n"
               "Deadline: 2\r\nAchieved: False\r\nDescription:\r\nBe loved.");
     EXPECT_EQ(dialogs().buttons.back(), Buttons::Ok);
-}
-
-struct GoalMenuScript : SimScenario {
-    void SetUp() override {
-        data.write("goals.cfg",
-                   goalBlock("name=Shoestring\r\ntype=funds\r\nvalue=75000\r\ndeadline=2\r\n"
-                             "funds=15000\r\n") +
-                       goalBlock("name=Rent free\r\ntype=purchase\r\nvalue=0\r\ndeadline=4\r\n"));
-        start(11, 1);
-    }
-};
-
-// The Goal menu picks a goal while the game runs, plays it again with its starting funds and
-// shows it; the state counts a reached goal.
-TEST_F(GoalMenuScript, PicksPlaysAgainAndCountsAReachedGoal) {
-    EXPECT_EQ(state()["funds"], 15000);
-    game().finances.spend(5000, "labor");
-    run("goal 2"); // no starting funds: the money stays
-    expectChecks({}, state(),
-                 R"({"/funds": 10000, "/goal/selected": 2, "/goal/type": "purchase"})");
-    EXPECT_THROW(run("goal 3"), sim::ScriptError);
-    EXPECT_THROW(run("goal -1"), sim::ScriptError);
-    run("day 2");
-    run("goal 1");
-    EXPECT_EQ(simulator->dialogs().asked.back().rfind("Goal name: Shoestring\r\n", 0), 0u);
-    expectChecks({}, state(), R"({"/funds": 15000, "/goalShown": 0, "/goal": {"selected": 1,
-        "type": "funds", "value": 75000, "deadline": 2, "achieved": false}})");
-    simulator->dialogs().answers = {Answer::Yes};
-    game().finances.setFunds(90000);
-    run("day");
-    expectChecks({}, state(), R"({"/goal/achieved": true, "/goalShown": 1})");
 }

@@ -418,7 +418,7 @@ TEST_F(SavedGameFixture, ALoadEmptiesTheLogRunsNoDayKeepsSpeedGoalAndSavedFlag) 
     EXPECT_EQ(game().goals.getSelected(), 1); // the goal is not part of a saved game
 }
 
-TEST_F(SavedGameFixture, AMissingFileOrAFolderLoadsNothingButBecomesThePath) {
+TEST_F(SavedGameFixture, AMissingFileOrAFolderBecomesThePathAndOpenTheaterReloadsIt) {
     start();
     const Int16 day = game().calendar.currentday;
     const std::string folder = saves.file("folder.zvn");
@@ -433,28 +433,26 @@ TEST_F(SavedGameFixture, AMissingFileOrAFolderLoadsNothingButBecomesThePath) {
     EXPECT_TRUE(game().files.saveGame()); // to that path, without asking
     EXPECT_TRUE(std::filesystem::exists(path));
     EXPECT_TRUE(dialogs().fileModes.empty());
-}
 
-TEST_F(SavedGameFixture, OpenTheaterAsksForAFileAndACancelReloadsTheKnownOne) {
+    // Open Theater asks for a file; with no path, a cancel fails silently.
     start();
-    // With no path, a cancel fails silently.
     game().files.openTheater();
     EXPECT_TRUE(game().savedPath.empty());
     EXPECT_EQ(game().logBox, "\r\nLoading ");
     days(1);
-    const std::string path = saveTo("known.zvn");
-    const Int16 day = game().calendar.currentday;
+    const std::string known = saveTo("known.zvn");
+    const Int16 knownDay = game().calendar.currentday;
     days(2);
-    dialogs().files = {path};
+    dialogs().files = {known};
     game().savedPath.clear();
     game().files.openTheater();
     EXPECT_EQ(dialogs().filters[1], filter);
-    EXPECT_EQ(game().savedPath, path);
-    EXPECT_EQ(game().calendar.currentday, day);
+    EXPECT_EQ(game().savedPath, known);
+    EXPECT_EQ(game().calendar.currentday, knownDay);
     days(2);
     game().files.openTheater(); // cancelled: the known file again
     EXPECT_EQ(dialogs().fileModes, std::vector<FileMode>(3, FileMode::Open));
-    EXPECT_EQ(game().calendar.currentday, day);
+    EXPECT_EQ(game().calendar.currentday, knownDay);
     EXPECT_TRUE(dialogs().asked.empty());
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace zorvane;
 using namespace zorvane::test;
 
@@ -85,10 +87,8 @@ TEST_F(PromoFixture, AMediumWithoutPointsRunsWithoutLimitAndOffTheTable) {
     const PromotionsView v = promotionsView(promos());
     ASSERT_EQ(v.rows.size(), 2u);
     EXPECT_EQ(v.rows[0].promo, "Billboard");
-    EXPECT_EQ(v.rows[1].promo, "TV");
-    EXPECT_EQ(v.rows[1].pts, "90");
-    EXPECT_EQ(v.rows[1].count, "6");
-    EXPECT_EQ(v.rows[1].price, "$900");
+    EXPECT_EQ(std::tie(v.rows[1].promo, v.rows[1].pts, v.rows[1].count, v.rows[1].price),
+              std::tuple("TV", "90", "6", "$900"));
     EXPECT_EQ(v.currentPromoLevel, "100");
     EXPECT_EQ(v.totalDailyPayments, "$1,064"); // 900 + 110 + 3 * 18
 }

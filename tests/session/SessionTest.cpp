@@ -75,7 +75,7 @@ TEST_F(SessionFixture, LogSlotsKeepAMessageToOnceADayAndTheBoxIsClearedWhenFull)
     EXPECT_EQ(game.screen.lines.size(), 1u);
 }
 
-TEST_F(SessionFixture, QuitAsksOnlyWhenUnsaved) {
+TEST_F(SessionFixture, QuitAsksOnlyWhenUnsavedANewGameOnlyWithoutAPath) {
     game->saved = true;
     EXPECT_THROW(game->quitGame(), ProcessEnded);
     EXPECT_TRUE(game.dialogs.asked.empty());
@@ -89,9 +89,8 @@ TEST_F(SessionFixture, QuitAsksOnlyWhenUnsaved) {
     // Yes, then the save dialog is cancelled: the game goes on.
     game.dialogs.answers = {Answer::Yes};
     EXPECT_NO_THROW(game->quitGame());
-}
 
-TEST_F(SessionFixture, NewGameAsksByWhetherAPathIsKnown) {
+    // A new game asks by whether a path is known, not by the saved flag.
     game.dialogs.answers = {Answer::No};
     EXPECT_NO_THROW(game->newGame());
     EXPECT_EQ(game.dialogs.asked.back(), "Unsaved game, proceed?");

@@ -144,6 +144,15 @@ const RunCase runCases[] = {
     // The bank.
     {"ALoanAsTyped", {"loan $20,000 10"}, R"({"/loan/loanAmount": 20000, "/loan/payPlan": 10})"},
     {"ALoanNeedsBothBoxes", {"loan 5000"}, "{}", 2},
+    // The Goal menu: a goal picked while the game runs, played with its starting funds and shown.
+    {.name = "TheGoalMenuPicksAGoalWithItsFundsAndShowsIt",
+     .script = {"goal 2"},
+     .checks = R"({"/funds": 45000, "/goalShown": 0, "/goal": {"selected": 2, "type": "funds",
+                   "value": 100000, "deadline": 2, "achieved": false}})",
+     .outHas = {"ask: Goal name: Shoestring Start | Type: funds | Value: 100000 | Deadline: 2"},
+     .quiet = false},
+    {"NoGoalBeyondTheList", {"goal 10"}, "{}", 2},
+    {"NoGoalMinusOne", {"goal -1"}, "{}", 2},
     // The building's buttons.
     {"RenovatingAWornHouse", {"day 28", "renovate"}, R"({"/building/condition": 100})"},
 };
