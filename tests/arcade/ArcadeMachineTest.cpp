@@ -3,6 +3,8 @@
 #include "arcade/ArcadeTexts.h"
 #include "core/GameError.h"
 
+#include <tuple>
+
 using namespace zorvane;
 using namespace zorvane::test;
 
@@ -81,12 +83,11 @@ TEST_F(Machine, BreakdownOnARollOfOneRefundsThePlayAndKeepsTheTotals) {
     EXPECT_TRUE(a.play(a.playTerms(), 0, g().rng));
     EXPECT_TRUE(a.IamBroke);
     EXPECT_TRUE(logged("The arcade machine Zap has broke down."));
-    EXPECT_EQ(g().finances.funds, 10001);  // two earned, one paid back
-    EXPECT_EQ(g().finances.totalspent, 1); // the refund charges no department
-    EXPECT_EQ(g().finances.deparcade, 0);
-    EXPECT_EQ(g().finances.incdeparcade, 2);
-    EXPECT_EQ(a.TotalPlays, 2);
-    EXPECT_EQ(a.Income, 2);
+    // Two earned, one paid back; the refund charges no department.
+    const Finances& f = g().finances;
+    EXPECT_EQ(std::tuple(f.funds, f.totalspent, f.deparcade, f.incdeparcade),
+              std::tuple(10001, 1, 0, 2));
+    EXPECT_EQ(std::tuple(a.TotalPlays, a.Income), std::tuple(2, 2));
     EXPECT_EQ(am().room.title(1).color, ArcadeRoom::titleBroken);
 }
 

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace zorvane::test {
 
 // A game with no files: the building's keys as each test knows them.

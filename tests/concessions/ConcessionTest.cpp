@@ -57,11 +57,10 @@ TEST_F(StandFixture, ASaleBooksTheMarginUnderConcessions) {
     const double funds = game->finances.funds;
     item(0).sell();
     // Unit cost: 0.70 + (1 + 1) * 0.10 = 0.90, so the margin is 2.10.
-    EXPECT_EQ(item(0).stock, 9);
-    EXPECT_DOUBLE_EQ(item(0).todaysprofit, 2.1);
-    EXPECT_EQ(item(0).todayssold, 1);
-    EXPECT_DOUBLE_EQ(item(0).lastmonthincome, 2.1);
-    EXPECT_EQ(item(0).thismonthsales, 1);
+    const Concession& c = item(0);
+    EXPECT_EQ(std::tuple(c.stock, c.todayssold, c.thismonthsales), std::tuple(9, 1, 1));
+    EXPECT_DOUBLE_EQ(c.todaysprofit, 2.1);
+    EXPECT_DOUBLE_EQ(c.lastmonthincome, 2.1);
     EXPECT_DOUBLE_EQ(game->finances.incdepconcessions, 2.1);
     EXPECT_DOUBLE_EQ(game->finances.funds, funds + 2.1);
     item(0).setPrice(0.5); // below the unit cost: a negative amount

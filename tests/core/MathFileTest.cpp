@@ -34,10 +34,12 @@ TEST_F(MathFixture, KeysIgnoreCaseButNotBlanksAndEveryLineEndReads) {
     EXPECT_EQ(game->math.gamespeed[3], 3);
 }
 
-TEST_F(MathFixture, ValuesKeepCaseAndLeadingBlanksAndLoseTheComment) {
-    load("showtimename1= Early Bird   # the first show\nconcessname0=PopCorn\n");
+TEST_F(MathFixture, ValuesKeepCaseAndBlanksLoseTheCommentLinesWithoutEqualsSkippedLastWins) {
+    load("Heading line\nshowtimename1= Early Bird   # the first show\nconcessname0=PopCorn\n"
+         "gamespeed1 250\n\ngamespeed1=10\ngamespeed1=20\nunknownkey=5\n");
     EXPECT_EQ(game->math.showtimename[1], " Early Bird");
     EXPECT_EQ(game->math.concessname[0], "PopCorn");
+    EXPECT_EQ(game->math.gamespeed[1], 20);
 }
 
 TEST_F(MathFixture, NumbersAreLeadingNumbersRoundedHalfToEven) {
@@ -49,11 +51,6 @@ TEST_F(MathFixture, NumbersAreLeadingNumbersRoundedHalfToEven) {
     EXPECT_EQ(game->math.gamespeed[2], 102);
     EXPECT_EQ(game->math.emphours, 7);       // floored, not rounded
     EXPECT_EQ(game->math.concessbuy[0], 12); // strict, then floored
-}
-
-TEST_F(MathFixture, LinesWithoutEqualsAreSkippedAndLastValueWins) {
-    load("Heading line\ngamespeed1 250\n\ngamespeed1=10\ngamespeed1=20\nunknownkey=5\n");
-    EXPECT_EQ(game->math.gamespeed[1], 20);
 }
 
 TEST_F(MathFixture, ACommentLineHoldingEqualsReappliesThePreviousEntry) {

@@ -34,11 +34,9 @@ TEST_F(GoalFile, FreePlayComesFirstThenTheGoalsBetweenTheirTagsInFileOrder) {
     EXPECT_EQ(g.getLastGoal(), 3);
     EXPECT_EQ(goalList(g), (std::vector<std::string>{"Free Play", "First", "Second", ""}));
     const goal& free = g.getGoal(0);
-    EXPECT_EQ(free.getName(), "Free Play");
-    EXPECT_EQ(free.getType(), "");
-    EXPECT_EQ(free.getValue(), 0);
-    EXPECT_EQ(free.getDeadline(), 0);
-    EXPECT_EQ(free.getDesc(), "Play without any goals");
+    EXPECT_EQ(std::tuple(free.getName(), free.getType(), free.getValue(), free.getDeadline(),
+                         free.getDesc()),
+              std::tuple("Free Play", "", 0, 0, "Play without any goals"));
     EXPECT_EQ(g.getSelected(), 0);
     EXPECT_THROW(g.getGoal(4), GameError);
 

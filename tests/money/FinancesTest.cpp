@@ -1,11 +1,8 @@
 #include "core/GameError.h"
-#include "core/LineFile.h"
 #include "session/Game.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 using namespace zorvane;
 using namespace zorvane::test;

@@ -2,8 +2,6 @@
 
 #include "core/GameError.h"
 
-#include <sstream>
-
 using namespace zorvane;
 using namespace zorvane::test;
 

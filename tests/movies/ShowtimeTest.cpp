@@ -3,6 +3,8 @@
 #include "core/GameError.h"
 #include "movies/Demand.h"
 
+#include <tuple>
+
 using namespace zorvane;
 using namespace zorvane::test;
 
@@ -96,9 +98,9 @@ TEST_P(ShowTable, TicketsIncomeAndAds) {
     EXPECT_DOUBLE_EQ(g().finances.incdepmovie - before.incdepmovie, c.income);
     EXPECT_DOUBLE_EQ(g().finances.totalincome - before.totalincome, c.income + c.adsPaid);
     EXPECT_DOUBLE_EQ(g().finances.funds - before.funds, c.income + c.adsPaid);
-    EXPECT_EQ(mm().myMovieAt(1).getMyIncome(), c.income);
-    EXPECT_EQ(mm().myMovieAt(1).getTodaysTickets(), c.tickets);
-    EXPECT_EQ(mm().myMovieAt(1).getMySold(), c.tickets);
+    const Movie& movie = mm().myMovieAt(1);
+    EXPECT_EQ(std::tuple(movie.getMyIncome(), movie.getTodaysTickets(), movie.getMySold()),
+              std::tuple(c.income, c.tickets, c.tickets));
 }
 
 INSTANTIATE_TEST_SUITE_P(Shows, ShowTable, ::testing::ValuesIn(showCases),

@@ -3,7 +3,6 @@
 // byte for byte, section by section.
 #include "Simulator.h"
 #include "arcade/ArcadeRoom.h"
-#include "core/GameError.h"
 #include "lab/RandomStrategy.h"
 #include "persistence/SavedFile.h"
 #include "support/SimScenario.h"

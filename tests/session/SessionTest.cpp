@@ -1,7 +1,6 @@
 // The session: the log, the questions around quitting and new games, the speed, the
 // command-line argument, the main screen's layout, the title screen and the calendar's day.
 #include "core/GameError.h"
-#include "core/Text.h"
 #include "session/Game.h"
 #include "session/MainTexts.h"
 #include "session/TitleScreen.h"

@@ -116,12 +116,10 @@ TEST_F(ManagerTest, TwoSickAndOneIdle) {
     // Eve's call is not logged: slot 3, once a day.
     EXPECT_EQ(log(), Names({"Bob Brown has called in sick today.",
                             "Hal Hunt filled in today, doing Usher", vinnyLine("Projectionist")}));
-    EXPECT_EQ(emp(2).sickdays, 1);
-    EXPECT_EQ(emp(5).sickdays, 1);
-    EXPECT_EQ(emp(2).daysworked, 0);
-    EXPECT_EQ(emp(8).daysworked, 1);
-    EXPECT_EQ(emp(8).paid, 6 * 16);
-    EXPECT_EQ(emp(5).paid, 0);
+    // Sick days, days worked and pay of the two sick and the stand-in.
+    EXPECT_EQ(std::tuple(emp(2).sickdays, emp(5).sickdays, emp(2).daysworked, emp(8).daysworked,
+                         emp(8).paid, emp(5).paid),
+              std::tuple(1, 1, 0, 1, 6 * 16, 0));
     // Wages of posts 1, 2 (to the stand-in), 3, 4, 6, 7 and the cousin's fee.
     const double wages = (5.5 + 6 + 6.5 + 7.25 + 10 + 13) * 16;
     EXPECT_DOUBLE_EQ(g.finances.deplabor, wages + 150);

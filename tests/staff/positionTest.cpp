@@ -1,7 +1,5 @@
 #include "StaffFixture.h"
 
-#include "core/GameError.h"
-
 #include <algorithm>
 
 using namespace zorvane;

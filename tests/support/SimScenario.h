@@ -9,7 +9,6 @@
 #include <memory>
 #include <sstream>
 #include <string>
-#include <vector>
 
 namespace zorvane::test {
 
