@@ -54,6 +54,17 @@ void BenchWindow::runAtFast(int& pictures) {
     QCoreApplication::processEvents();
 }
 
+bool BenchWindow::timeYearsAtFast(benchmark::State& state) {
+    int pictures = 0;
+    runAtFast(pictures);
+    for (auto _ : state)
+        if (!runYear(game(), state))
+            return false;
+    state.counters["pictures"] = pictures;
+    countPerDay(state);
+    return true;
+}
+
 bool runYear(Game& game, benchmark::State& state) {
     for (int d = 0; d < 336; ++d) {
         try {

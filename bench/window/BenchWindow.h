@@ -28,6 +28,9 @@ struct BenchWindow {
     // The clock at Fast with the benchmark as its timer; a lost game or a reached goal
     // would wait for a double click on its picture, so here they only count.
     void runAtFast(int& pictures);
+    // The benchmark's loop: a game year at Fast an iteration, with the end pictures counted
+    // and the time a day reported. False when the game ended in an error.
+    bool timeYearsAtFast(benchmark::State& state);
 };
 
 // A game year at Fast, day by day: the tick, then the event loop's pass that repaints every

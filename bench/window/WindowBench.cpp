@@ -51,14 +51,7 @@ void BM_DayAtFastWithWindows(benchmark::State& state) {
     BenchWindow window(true);
     if (state.range(0) != 0)
         window.showLog();
-    // A year of the demo theater may end in a lost game.
-    int pictures = 0;
-    window.runAtFast(pictures);
-    for (auto _ : state)
-        if (!runYear(window.w->game(), state))
-            return;
-    state.counters["pictures"] = pictures;
-    countPerDay(state);
+    window.timeYearsAtFast(state); // a year of the demo theater may end in a lost game
 }
 // Argument 1: the log window shows too (the goal's case); 0: the main screen alone.
 BENCHMARK(BM_DayAtFastWithWindows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->Iterations(3);
@@ -91,17 +84,12 @@ void BM_DayAtFastWithArcadeAndStand(benchmark::State& state) {
     // How often the stand's rows repainted: the screens had work to do.
     int standPaints = 0;
     window.w->screen().addPainter(View::ConcessionListing, [&standPaints] { ++standPaints; });
-    int pictures = 0;
-    window.runAtFast(pictures);
-    for (auto _ : state)
-        if (!runYear(game, state))
-            return;
+    if (!window.timeYearsAtFast(state))
+        return;
     state.counters["stand_paints"] = standPaints;
     state.counters["machines"] = arcades.getMachineCount();
     state.counters["visible"] =
         window.w->modeScreen(3)->isVisible() + window.w->modeScreen(4)->isVisible();
-    state.counters["pictures"] = pictures;
-    countPerDay(state);
 }
 BENCHMARK(BM_DayAtFastWithArcadeAndStand)->Unit(benchmark::kMillisecond)->Iterations(3);
 
@@ -110,13 +98,7 @@ BENCHMARK(BM_DayAtFastWithArcadeAndStand)->Unit(benchmark::kMillisecond)->Iterat
 void BM_DayAtFastWithEveryScreen(benchmark::State& state) {
     BenchWindow window(true);
     window.showEverything();
-    int pictures = 0;
-    window.runAtFast(pictures);
-    for (auto _ : state)
-        if (!runYear(window.w->game(), state))
-            return;
-    state.counters["pictures"] = pictures;
-    countPerDay(state);
+    window.timeYearsAtFast(state);
 }
 BENCHMARK(BM_DayAtFastWithEveryScreen)->Unit(benchmark::kMillisecond)->Iterations(3);
 
@@ -154,13 +136,7 @@ void BM_DayAtFastWithMoviesAndPromo(benchmark::State& state) {
     game.promos.addPromo(3);
     game.switchMode(0);
     game.switchMode(2); // both stay visible; the movies screen in front on its first tab
-    int pictures = 0;
-    window.runAtFast(pictures);
-    for (auto _ : state)
-        if (!runYear(game, state))
-            return;
-    state.counters["pictures"] = pictures;
-    countPerDay(state);
+    window.timeYearsAtFast(state);
 }
 BENCHMARK(BM_DayAtFastWithMoviesAndPromo)->Unit(benchmark::kMillisecond)->Iterations(3);
 
